@@ -1,0 +1,63 @@
+#include <memory>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "cli/Commands.h"
+#include "cli/Json.h"
+#include "cli/Session.h"
+#include "cli/TextTable.h"
+#include "general/CodePage.h"
+#include "integrity/LabelCheck.h"
+
+namespace parlate::cli {
+
+namespace {
+
+Json ToJson(const std::vector<BadLabelRow>& rows) {
+  Json list = Json::array();
+  for (const BadLabelRow& row : rows) {
+    list.push_back({{"conversation", ToUtf8(row.conversation)},
+                    {"label", ToUtf8(row.label)},
+                    {"eventKey", row.eventKey}});
+  }
+  return list;
+}
+
+void WriteTable(std::ostream& out, const std::vector<BadLabelRow>& rows) {
+  if (rows.empty()) {
+    out << "All label references are valid.\n";
+    return;
+  }
+  TextTable table({"Conversation", "Label", "Event key"});
+  for (const BadLabelRow& row : rows) {
+    table.AddRow({ToUtf8(row.conversation), ToUtf8(row.label), std::to_string(row.eventKey)});
+  }
+  table.Write(out);
+}
+
+}  // namespace
+
+void AddCheckCommand(CLI::App& app, const Streams& streams, int& result) {
+  struct CheckOptions {
+    std::string path;
+    bool json = false;
+  };
+  auto* command = app.add_subcommand("check", "Find references to labels that do not exist");
+  auto options = std::make_shared<CheckOptions>();
+  command->add_option("FILE", options->path, "Conversation file")->required();
+  command->add_flag("--json", options->json, "Write JSON instead of a table");
+  command->callback([options, streams, &result] {
+    Session session;
+    session.Load(options->path);
+    const auto rows = CheckLabels(session.file, session, session.badLabels);
+    if (options->json) {
+      WriteJson(streams.out, ToJson(rows));
+    } else {
+      WriteTable(streams.out, rows);
+    }
+    result = rows.empty() ? kSuccess : kFindings;
+  });
+}
+
+}  // namespace parlate::cli

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <functional>
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+namespace parlate::cli {
+
+/// Where a command writes; a test hands in streams of its own.
+struct Streams {
+  std::ostream& out;
+  std::ostream& err;
+};
+
+/// Exit codes that a script can trust.
+enum ExitCode : int {
+  kSuccess = 0,
+  kFindings = 1,  ///< `check` found broken references.
+  kFailure = 2,   ///< Nothing was written.
+  kRefused = 3,   ///< Not a conversation file, too old, or too new.
+};
+
+/// Each adds one subcommand to the parser; `result` takes the exit code when it ran.
+void AddDumpCommand(CLI::App& app, const Streams& streams, int& result);
+void AddListCommand(CLI::App& app, const Streams& streams, int& result);
+void AddCheckCommand(CLI::App& app, const Streams& streams, int& result);
+void AddConvertCommand(CLI::App& app, const Streams& streams, int& result);
+
+/// Runs the tool on its arguments, without the program's name, and returns the exit code. A failure
+/// is one line on `err` that begins with "parlate-cli: ".
+int Run(const std::vector<std::string>& arguments, const Streams& streams);
+
+}  // namespace parlate::cli

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+#include <ostream>
+
+#include "model/Conversation.h"
+#include "model/ConversationFile.h"
+
+namespace parlate::cli {
+
+/// JSON with its keys in the order in which they are put in.
+using Json = nlohmann::ordered_json;
+
+/// The whole content of a conversation, of the tables in place, and of the file's header.
+[[nodiscard]] Json ConversationToJson(const Conversation& con);
+[[nodiscard]] Json EventToJson(const EventItem& event);
+
+/// One value on one line.
+void WriteJson(std::ostream& out, const Json& value);
+
+}  // namespace parlate::cli

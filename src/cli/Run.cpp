@@ -1,0 +1,56 @@
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <new>
+#include <ostream>
+#include <string>
+
+#include "cli/Commands.h"
+#include "cli/Session.h"
+#include "general/RuntimeError.h"
+
+namespace parlate::cli {
+
+namespace {
+
+int Fail(const Streams& streams, int code, std::string line) {
+  std::replace(line.begin(), line.end(), '\n', ' ');
+  streams.err << "parlate-cli: " << line << '\n';
+  return code;
+}
+
+int ParseAndRun(CLI::App& app, std::vector<std::string> arguments, const Streams& streams,
+                const int& result) {
+  try {
+    std::reverse(arguments.begin(), arguments.end());  // the parser takes them from the end
+    app.parse(arguments);
+    streams.out.flush();
+    if (!streams.out) return Fail(streams, kFailure, "the output cannot be written");
+    return result;
+  } catch (const CLI::Success& asked) {  // --help and --version
+    return app.exit(asked, streams.out, streams.err);
+  } catch (const CLI::ParseError& error) {
+    return Fail(streams, kFailure, error.what());
+  } catch (const Refusal& refusal) {
+    return Fail(streams, kRefused, refusal.what());
+  } catch (const RuntimeError& error) {
+    return Fail(streams, kFailure, error.what());
+  } catch (const std::bad_alloc&) {
+    return Fail(streams, kFailure, ErrorDescription(RuntimeError::kOutOfMemory));
+  }
+}
+
+}  // namespace
+
+int Run(const std::vector<std::string>& arguments, const Streams& streams) {
+  CLI::App app("Reads, lists, checks and converts conversation files.", "parlate-cli");
+  app.set_version_flag("--version", PARLATE_VERSION);
+  app.require_subcommand(1);
+  int result = kSuccess;
+  AddDumpCommand(app, streams, result);
+  AddListCommand(app, streams, result);
+  AddCheckCommand(app, streams, result);
+  AddConvertCommand(app, streams, result);
+  return ParseAndRun(app, arguments, streams, result);
+}
+
+}  // namespace parlate::cli

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <string>
+
+namespace parlate {
+
+/// A synchronous message box. Texts are code-page text; a line feed breaks the line.
+struct MessageBox {
+  enum class Icon { None, Information, Question, Exclamation, Critical };
+  enum class Buttons { Ok, YesNo, YesNoCancel };
+
+  std::string title;
+  std::string text;
+  Icon icon = Icon::None;
+  Buttons buttons = Buttons::Ok;
+};
+
+enum class Answer { Ok, Yes, No, Cancel };
+
+/// The one door through which the program says and asks something.
+class MessageBoxes {
+ public:
+  virtual ~MessageBoxes() = default;
+  virtual Answer Show(const MessageBox& box) = 0;
+};
+
+/// What a common file dialog is set up with. Texts are code-page text, paths the platform's.
+struct FileDialog {
+  std::string title;
+  std::string filter;         ///< Pairs of caption and pattern, all split at "|".
+  std::string initialFolder;  ///< Empty leaves the choice to the platform.
+  std::string fileName;
+};
+
+/// The one door to the common file dialogs. An empty result means that the user cancelled.
+class FileDialogs {
+ public:
+  virtual ~FileDialogs() = default;
+  virtual std::string ShowOpen(const FileDialog& dialog) = 0;
+  virtual std::string ShowSave(const FileDialog& dialog) = 0;
+};
+
+/// The progress dialog of a long walk. It stays until it is closed, also when the walk fails.
+class ProgressDisplay {
+ public:
+  virtual ~ProgressDisplay() = default;
+  /// Shows the dialog without blocking and lets the interface repaint.
+  virtual void Begin(const std::string& caption, const std::string& text, int top) = 0;
+  virtual void SetTop(int top) = 0;
+  /// Shows a text and a bar value from 0 to the top, and lets the interface repaint.
+  virtual void Step(const std::string& text, int value) = 0;
+  virtual void End() = 0;
+};
+
+}  // namespace parlate

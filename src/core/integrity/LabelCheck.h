@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "model/ConversationFile.h"
+#include "model/Workspace.h"
+
+namespace parlate {
+
+/// One broken reference: the conversation and the event that hold it, and the label that no event
+/// defines.
+struct BadLabelItem {
+  const Conversation* conObj = nullptr;
+  const EventObject* eventObj = nullptr;
+  std::string strLabel;
+};
+
+/// The broken references that were reported, in the order of the reports. Repeated ones stay.
+class BadLabels final : public BadLabelSink {
+ public:
+  void AddBadLabel(const Conversation& newConObj, const EventObject& newEventObj,
+                   const std::string& newLabel) override {
+    colBadLabels.push_back({&newConObj, &newEventObj, newLabel});
+  }
+  void ClearBadLabels() { colBadLabels.clear(); }
+
+  std::vector<BadLabelItem> colBadLabels;
+};
+
+/// A broken reference as a report names it.
+struct BadLabelRow {
+  std::string conversation;  ///< `conName` of the conversation that holds the reference.
+  std::string label;
+  std::int32_t eventKey = 0;
+};
+
+/// Asks every event of every conversation, in the order of the tree, and returns what is broken.
+/// `labels` is emptied first, and holds the same references afterwards. It has to be the sink of
+/// the workspace in place.
+[[nodiscard]] std::vector<BadLabelRow> CheckLabels(const ConversationFile& file,
+                                                   const ConversationTreeOrder& tree,
+                                                   BadLabels& labels);
+
+}  // namespace parlate

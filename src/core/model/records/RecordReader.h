@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <unordered_map>
+
+#include "general/BinaryFile.h"
+#include "general/RuntimeError.h"
+
+namespace parlate {
+
+/// What a record needs to read itself: the bytes, and the version of the file, which decides which
+/// fields there are.
+struct RecordReader {
+  BinaryReader& file;
+  std::int32_t version;
+  /// IDs that missing actors of a name were given in this load, so that healing many references
+  /// does not search the table each time.
+  std::unordered_map<std::string, std::int32_t> healedActors;
+};
+
+/// Runs the reading of one record. An error that leaves it learns the record's name and, if nobody
+/// knows better, the place where the reading stood. `name` is asked for on an error only.
+template <class Name, class Read>
+void InRecord(const BinaryReader& file, Name name, Read read) {
+  try {
+    read();
+  } catch (RuntimeError& error) {
+    if (!error.Offset()) error.SetOffset(file.Offset());
+    error.AddRecord(name());
+    throw;
+  }
+}
+
+/// An ID of the actors table and, above -1, the name of its row. An ID whose row is missing heals:
+/// it becomes that of the row of the name, or of a new row.
+std::int32_t ReadActorRef(RecordReader& in);
+
+/// RuntimeError 5 for an ID above -1 that has no row.
+void WriteActorRef(BinaryWriter& file, std::int32_t id);
+
+}  // namespace parlate
