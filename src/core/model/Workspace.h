@@ -51,6 +51,9 @@ struct Workspace {
   BadLabelSink* badLabels = nullptr;
   MessageBoxes* messages = nullptr;
   TableEditor* tableEditor = nullptr;
+  /// A record that names a missing row is written with an empty name instead of failing. Only a
+  /// rescue in an emergency wants that.
+  bool writeMissingNames = false;
 
   /// The one in place. There always is one.
   static Workspace& Current();

@@ -9,9 +9,8 @@ namespace parlate {
 
 QString ToQString(std::string_view codePage) {
   QString text(static_cast<qsizetype>(codePage.size()), Qt::Uninitialized);
-  std::transform(codePage.begin(), codePage.end(), text.begin(), [](char byte) {
-    return QChar(CodePoint(static_cast<unsigned char>(byte)));
-  });
+  std::transform(codePage.begin(), codePage.end(), text.begin(),
+                 [](char byte) { return QChar(CodePoint(static_cast<unsigned char>(byte))); });
   return text;
 }
 

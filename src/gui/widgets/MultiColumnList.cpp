@@ -46,6 +46,8 @@ MultiColumnList::MultiColumnList(ListRows& rows, QWidget* parent)
     ScheduleLayout();
     emit columnWidthChanged();
   });
+  layoutTimer_.setSingleShot(true);
+  connect(&layoutTimer_, &QTimer::timeout, this, &MultiColumnList::UpdateLayout);
   rows_.SetListener(this);
 }
 
@@ -104,19 +106,24 @@ void MultiColumnList::RowsReset() {
   ScheduleLayout();
   // Other rows are another text: it is read from its start.
   verticalScrollBar()->setValue(0);
+  emit rowsReset();
   TellOfRows(QAccessibleTableModelChangeEvent::ModelReset, -1);
 }
 
 void MultiColumnList::RowInserted(std::size_t index) {
   if (FollowsRows()) tops_.Insert(index, MeasureRow(rows_.Row(index)));
   ScheduleLayout();
-  TellOfRows(QAccessibleTableModelChangeEvent::RowsInserted, static_cast<int>(index));
+  const auto row = static_cast<int>(index);
+  emit rowInserted(row);
+  TellOfRows(QAccessibleTableModelChangeEvent::RowsInserted, row);
 }
 
 void MultiColumnList::RowRemoved(std::size_t index) {
   if (FollowsRows()) tops_.Remove(index);
   ScheduleLayout();
-  TellOfRows(QAccessibleTableModelChangeEvent::RowsRemoved, static_cast<int>(index));
+  const auto row = static_cast<int>(index);
+  emit rowRemoved(row);
+  TellOfRows(QAccessibleTableModelChangeEvent::RowsRemoved, row);
 }
 
 void MultiColumnList::RowTextChanged(std::size_t index) {

@@ -5,6 +5,7 @@
 #include <QColor>
 #include <QHeaderView>
 #include <QStandardItemModel>
+#include <QTimer>
 #include <cstdint>
 #include <map>
 #include <optional>
@@ -58,8 +59,8 @@ class MultiColumnList : public QAbstractScrollArea, private ListRowsListener {
 
   /// Where a row stands in the viewport, in pixels; it may lie outside.
   [[nodiscard]] QRect RowRect(int row);
-  /// As RowRect, the first line alone, from the left edge of a column to the right one.
-  [[nodiscard]] QRect CellRect(int row, int column);
+  /// The cell of a column in a row that stands at `rowRect`: its first line, as wide as the column.
+  [[nodiscard]] QRect CellRect(const QRect& rowRect, int column) const;
   /// Where a column head stands, in pixels of the viewport: above it, or empty if heads are hidden.
   [[nodiscard]] QRect HeadRect(int column) const;
   /// The row at a point of the viewport, -1 for none.
@@ -76,6 +77,10 @@ class MultiColumnList : public QAbstractScrollArea, private ListRowsListener {
   void Activate(int row);
 
  signals:
+  /// What the rows tell of changes, for those who cannot listen to them because the list does.
+  void rowsReset();
+  void rowInserted(int row);
+  void rowRemoved(int row);
   /// The selected row changed, by hand or by the rows' SetListIndex.
   void listIndexChanged();
   /// The left button went down and up on the same row.
@@ -132,7 +137,7 @@ class MultiColumnList : public QAbstractScrollArea, private ListRowsListener {
   // Painting
   void ScheduleRepaint();
   void PaintRow(QPainter& painter, int index, const QRect& dirty);
-  void PaintColumns(QPainter& painter, int row);
+  void PaintColumns(QPainter& painter, int index, const QRect& rect);
   void PaintSubText(QPainter& painter, const ListRow& row, const QRect& rect, const QRect& dirty);
   static void PaintFocusFrame(QPainter& painter, const QRect& rect, const QColor& color);
   [[nodiscard]] RowColors ColorsOf(const ListRow& row, bool selected) const;
@@ -160,14 +165,14 @@ class MultiColumnList : public QAbstractScrollArea, private ListRowsListener {
   ListRows& rows_;
   QStandardItemModel heads_;
   QHeaderView header_;
+  QTimer layoutTimer_;
   LineBreaker breaker_;
   RowTops tops_;
   std::map<std::int32_t, QString> colorMeanings_;
   int pressedRow_ = -1;
-  int measuredWidth_ = 0;      ///< Width of the second texts that the heights belong to.
-  bool heightsDirty_ = true;   ///< tops_ says nothing until all rows are measured.
-  bool layoutDirty_ = true;    ///< Heights or scroll bars are behind the rows.
-  bool layoutQueued_ = false;
+  int measuredWidth_ = 0;     ///< Width of the second texts that the heights belong to.
+  bool heightsDirty_ = true;  ///< tops_ says nothing until all rows are measured.
+  bool layoutDirty_ = true;   ///< Heights or scroll bars are behind the rows.
   bool layingOut_ = false;
   bool repaintScheduled_ = false;
   bool scrollToSelection_ = false;  ///< Due with the next layout.

@@ -18,9 +18,19 @@ QAccessibleInterface* MakeInterface(const QString& /*className*/, QObject* objec
 }  // namespace
 
 MultiColumnListAccessible::MultiColumnListAccessible(MultiColumnList& list)
-    : QAccessibleWidget(&list, QAccessible::Table) {}
+    : QAccessibleWidget(&list, QAccessible::Table),
+      connections_{QObject::connect(&list, &MultiColumnList::rowInserted, &list,
+                                    [this](int row) { MoveCells(row, 1); }),
+                   QObject::connect(&list, &MultiColumnList::rowRemoved, &list,
+                                    [this](int row) {
+                                      ForgetCells(row, row);
+                                      MoveCells(row + 1, -1);
+                                    }),
+                   QObject::connect(&list, &MultiColumnList::rowsReset, &list,
+                                    [this] { ForgetCells(0, std::numeric_limits<int>::max()); })} {}
 
 MultiColumnListAccessible::~MultiColumnListAccessible() {
+  for (const QMetaObject::Connection& connection : connections_) QObject::disconnect(connection);
   for (const auto& [place, id] : cells_) QAccessible::deleteAccessibleInterface(id);
 }
 
@@ -52,7 +62,8 @@ QAccessibleInterface* MultiColumnListAccessible::childAt(int x, int y) const {
   const QPoint position = List().viewport()->mapFromGlobal(QPoint(x, y));
   const int column = List().ColumnAt(position);
   if (column < 0) return nullptr;
-  if (List().HeadRect(column).contains(position)) return CellAt({MultiColumnListCell::kHeadRow, column});
+  if (List().HeadRect(column).contains(position))
+    return CellAt({MultiColumnListCell::kHeadRow, column});
   const int row = List().RowAt(position);
   return row < 0 ? nullptr : CellAt({row, column});
 }
@@ -126,24 +137,6 @@ bool MultiColumnListAccessible::unselectRow(int row) {
   if (!isRowSelected(row) || !List().isEnabled()) return false;
   List().Rows().SetListIndex(-1);
   return true;
-}
-
-void MultiColumnListAccessible::modelChange(QAccessibleTableModelChangeEvent* event) {
-  const int count = event->lastRow() - event->firstRow() + 1;
-  switch (event->modelChangeType()) {
-    case QAccessibleTableModelChangeEvent::ModelReset:
-      ForgetCells(MultiColumnListCell::kHeadRow, std::numeric_limits<int>::max());
-      break;
-    case QAccessibleTableModelChangeEvent::RowsInserted:
-      MoveCells(event->firstRow(), count);
-      break;
-    case QAccessibleTableModelChangeEvent::RowsRemoved:
-      ForgetCells(event->firstRow(), event->lastRow());
-      MoveCells(event->lastRow() + 1, -count);
-      break;
-    default:
-      break;
-  }
 }
 
 void MultiColumnListAccessible::ForgetCells(int firstRow, int lastRow) {

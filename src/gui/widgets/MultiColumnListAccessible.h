@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QAccessibleWidget>
+#include <QObject>
+#include <array>
 #include <map>
 #include <utility>
 
@@ -47,7 +49,9 @@ class MultiColumnListAccessible : public QAccessibleWidget, public QAccessibleTa
   bool selectColumn(int /*column*/) override { return false; }
   bool unselectRow(int row) override;
   bool unselectColumn(int /*column*/) override { return false; }
-  void modelChange(QAccessibleTableModelChangeEvent* event) override;
+  /// Qt tells of changes here only while an assistive program listens. The cells have to follow at
+  /// any time, so they follow the signals of the list.
+  void modelChange(QAccessibleTableModelChangeEvent* /*event*/) override {}
 
  private:
   using Place = std::pair<int, int>;  ///< Row and column; row -1 holds the heads.
@@ -58,6 +62,7 @@ class MultiColumnListAccessible : public QAccessibleWidget, public QAccessibleTa
   void MoveCells(int firstRow, int rows);
 
   mutable std::map<Place, QAccessible::Id> cells_;
+  std::array<QMetaObject::Connection, 3> connections_;
 };
 
 }  // namespace parlate

@@ -24,8 +24,9 @@ QString MultiColumnListCell::text(QAccessible::Text which) const {
 QRect MultiColumnListCell::rect() const {
   if (!isValid()) return {};
   const QRect rect =
-      row_ == kHeadRow ? list_->HeadRect(column_)
-                       : list_->CellRect(row_, column_).intersected(list_->viewport()->rect());
+      row_ == kHeadRow
+          ? list_->HeadRect(column_)
+          : list_->CellRect(list_->RowRect(row_), column_).intersected(list_->viewport()->rect());
   return {list_->viewport()->mapToGlobal(rect.topLeft()), rect.size()};
 }
 
@@ -40,7 +41,8 @@ QAccessible::State MultiColumnListCell::state() const {
   state.focusable = true;
   state.selected = isSelected();
   state.focused = isSelected() && list_->hasFocus();
-  state.offscreen = !list_->CellRect(row_, column_).intersects(list_->viewport()->rect());
+  state.offscreen =
+      !list_->CellRect(list_->RowRect(row_), column_).intersects(list_->viewport()->rect());
   return state;
 }
 

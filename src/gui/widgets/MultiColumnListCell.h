@@ -10,8 +10,8 @@ namespace parlate {
 /// One cell, or one head if the row is kHeadRow. It reads from the list whatever it is asked, so
 /// it cannot fall behind it.
 class MultiColumnListCell final : public QAccessibleInterface,
-                            public QAccessibleTableCellInterface,
-                            public QAccessibleActionInterface {
+                                  public QAccessibleTableCellInterface,
+                                  public QAccessibleActionInterface {
  public:
   static constexpr int kHeadRow = -1;
 

@@ -64,15 +64,7 @@ bool MultiColumnList::FollowsRows() {
 void MultiColumnList::ScheduleLayout() {
   layoutDirty_ = true;
   ScheduleRepaint();
-  if (layoutQueued_ || !isVisible()) return;
-  layoutQueued_ = true;
-  QMetaObject::invokeMethod(
-      this,
-      [this] {
-        layoutQueued_ = false;
-        UpdateLayout();
-      },
-      Qt::QueuedConnection);
+  if (isVisible() && !layoutTimer_.isActive()) layoutTimer_.start();
 }
 
 void MultiColumnList::UpdateLayout() {
@@ -142,11 +134,9 @@ QRect MultiColumnList::RowRect(int row) {
   return {0, top, viewport()->width(), tops_.Height(index)};
 }
 
-QRect MultiColumnList::CellRect(int row, int column) {
-  const QRect rect = RowRect(row);
-  if (rect.isNull()) return {};
-  return {header_.sectionViewportPosition(column), rect.top(), header_.sectionSize(column),
-          std::min(rect.height(), SingleLineHeight())};
+QRect MultiColumnList::CellRect(const QRect& rowRect, int column) const {
+  return {header_.sectionViewportPosition(column), rowRect.top(), header_.sectionSize(column),
+          std::min(rowRect.height(), SingleLineHeight())};
 }
 
 QRect MultiColumnList::HeadRect(int column) const {

@@ -99,21 +99,21 @@ void MultiColumnList::PaintRow(QPainter& painter, int index, const QRect& dirty)
     painter.fillRect(strip, ColorOfBgr(row.color));
   }
   painter.setPen(colors.text);
-  PaintColumns(painter, index);
+  PaintColumns(painter, index, rect);
   PaintSubText(painter, row, rect, dirty);
   painter.fillRect(rect.left(), rect.bottom(), rect.width(), 1,
                    Blend(colors.text, colors.background, kSeparatorStrength));
   if (selected && hasFocus()) PaintFocusFrame(painter, rect.adjusted(0, 0, 0, -1), colors.text);
 }
 
-void MultiColumnList::PaintColumns(QPainter& painter, int row) {
+void MultiColumnList::PaintColumns(QPainter& painter, int index, const QRect& rect) {
   const QFontMetrics metrics = fontMetrics();
   for (int column = 0; column < ColumnCount(); ++column) {
     const int margin = column == 0 ? TextMargin() : kTextPadding;
-    const QRect cell = CellRect(row, column).adjusted(margin, kTopPadding, -kTextPadding, 0);
+    const QRect cell = CellRect(rect, column).adjusted(margin, kTopPadding, -kTextPadding, 0);
     if (cell.width() <= 0 || cell.right() < 0 || cell.left() >= viewport()->width()) continue;
     // No character is narrower than a pixel: what is cut off here could not show, however long.
-    const QString text = CellText(row, column).left(cell.width() + 1);
+    const QString text = CellText(index, column).left(cell.width() + 1);
     painter.drawText(cell.left(), cell.top() + metrics.ascent(),
                      metrics.elidedText(text, Qt::ElideRight, cell.width()));
   }

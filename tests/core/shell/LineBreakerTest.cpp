@@ -150,7 +150,7 @@ TEST(LineBreaker, TakesTimeInProportionToTheText) {
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
   };
   secondsFor(1000);
-  // Four million steps are done in well under a second; their square would take days.
+  // Four million steps are done in well under a second; their square would take hours.
   EXPECT_LT(secondsFor(4'000'000), 10.0);
 }
 

@@ -22,7 +22,7 @@ constexpr std::int32_t kMostLabels = INT16_MAX + 1;
 
 void WriteNamedRow(BinaryWriter& file, TableType tableType, std::int32_t id) {
   file.WriteInt32(id);
-  file.WriteFileString(GetTableItemName(tableType, id));
+  file.WriteFileString(StoredRowName(tableType, id));
 }
 
 /// The name stored beside the ID is dropped: only the ID counts.

@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "model/Tables.h"
+#include "model/Workspace.h"
 
 namespace parlate {
 
@@ -16,9 +17,15 @@ std::int32_t ReadActorRef(RecordReader& in) {
   return healed->second;
 }
 
+std::string_view StoredRowName(std::int32_t tableType, std::int32_t id) {
+  const TableItem* row = GetTable(tableType)->Find(id);
+  if (row == nullptr && Workspace::Current().writeMissingNames) return {};
+  return row != nullptr ? std::string_view(row->Name) : GetTableItemName(tableType, id);
+}
+
 void WriteActorRef(BinaryWriter& file, std::int32_t id) {
   file.WriteInt32(id);
-  if (id > -1) file.WriteFileString(GetTableItemName(kActorTable, id));
+  if (id > -1) file.WriteFileString(StoredRowName(kActorTable, id));
 }
 
 }  // namespace parlate

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 
 #include "general/BinaryFile.h"
@@ -35,6 +36,9 @@ void InRecord(const BinaryReader& file, Name name, Read read) {
 /// An ID of the actors table and, above -1, the name of its row. An ID whose row is missing heals:
 /// it becomes that of the row of the name, or of a new row.
 std::int32_t ReadActorRef(RecordReader& in);
+
+/// The name that a record stores beside the ID of a row. RuntimeError 5 for a missing row.
+[[nodiscard]] std::string_view StoredRowName(std::int32_t tableType, std::int32_t id);
 
 /// RuntimeError 5 for an ID above -1 that has no row.
 void WriteActorRef(BinaryWriter& file, std::int32_t id);

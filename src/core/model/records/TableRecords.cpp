@@ -78,7 +78,15 @@ std::int32_t LoadTable(Table& table, BinaryReader& file) {
 
 void SaveTables(BinaryWriter& file) {
   std::int64_t size = 0;
-  for (const TableType type : kStoredTables) size += GetTableSize(*GetTable(type));
+  const auto addSizes = [&size] {
+    for (const TableType type : kStoredTables) size += GetTableSize(*GetTable(type));
+  };
+  // No reader looks at the size, so a rescue does without it where it cannot be told.
+  if (Workspace::Current().writeMissingNames) {
+    ResumeNext(addSizes);
+  } else {
+    addSizes();
+  }
   file.WriteInt32(NarrowTo<std::int32_t>(size));
   for (const TableType type : kStoredTables) SaveTable(*GetTable(type), file);
 }
@@ -102,7 +110,7 @@ bool LoadTables(RecordReader& in) {
 
 void FlagRef::Save(BinaryWriter& file) const {
   file.WriteInt32(flagID);
-  file.WriteFileString(GetTableItemName(kFlagTable, flagID));
+  file.WriteFileString(StoredRowName(kFlagTable, flagID));
   file.WriteFileBool(bValue);
   file.WriteInt32(expiration);
 }

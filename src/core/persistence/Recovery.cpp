@@ -1,0 +1,75 @@
+#include "persistence/Recovery.h"
+
+#include <array>
+#include <chrono>
+#include <cmath>
+#include <cstdio>
+#include <utility>
+
+#include "general/BinaryFile.h"
+#include "general/Paths.h"
+#include "model/Workspace.h"
+
+namespace parlate {
+
+namespace {
+
+/// Conversations in the order of the collection: the tree may be what failed.
+class CollectionOrder final : public ConversationTreeOrder {
+ public:
+  explicit CollectionOrder(const ConversationFile& file) : file_(file) {}
+  void TreeViewAddConversation(const std::shared_ptr<Conversation>&, Boolean) override {}
+  void WalkConversations(const std::function<void(std::int32_t)>& visit) const override {
+    for (std::size_t place = 1; place <= file_.Conversations.Count(); ++place) {
+      visit(file_.Conversations.KeyAt(place));
+    }
+  }
+
+ private:
+  const ConversationFile& file_;
+};
+
+/// A rescue says and shows nothing.
+class Silence final : public MessageBoxes, public ProgressDisplay {
+ public:
+  Answer Show(const MessageBox&) override { return Answer::Ok; }
+  void Begin(const std::string&, const std::string&, int) override {}
+  void SetTop(int) override {}
+  void Step(const std::string&, int) override {}
+  void End() override {}
+};
+
+}  // namespace
+
+std::string RecoveryFileName(const std::string& conFileName, Date moment) {
+  using namespace std::chrono;
+  constexpr double kSecondsOfDay = 86400.0;
+  const double day = std::floor(moment);
+  const auto ofDay = static_cast<int>(std::lround((moment - day) * kSecondsOfDay));
+  const year_month_day date(sys_days(1899y / December / 30) + days(static_cast<int>(day)));
+  std::array<char, 64> text{};
+  std::snprintf(text.data(), text.size(), "-%04d%02u%02u-%02d%02d%02d", static_cast<int>(date.year()),
+                static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()),
+                ofDay / 3600, ofDay / 60 % 60, ofDay % 60);
+  const std::string name = StripExtension(GetFileOnly(conFileName));
+  return (name.empty() ? "untitled" : name) + text.data() + ".con";
+}
+
+std::string WriteRecovery(ConversationFile& file, const std::string& folder,
+                          const std::string& name) {
+  Workspace& workspace = Workspace::Current();
+  const bool before = std::exchange(workspace.writeMissingNames, true);
+  const std::string path = folder + kPathSeparator + name;
+  const bool written = ResumeNext([&] {
+    CreateDirectoryPath(folder + kPathSeparator);
+    FileSink sink(path);
+    BinaryWriter writer(sink);
+    Silence silence;
+    CollectionOrder order(file);
+    file.SaveConversations(writer, {silence, silence, order});
+  });
+  workspace.writeMissingNames = before;
+  return written ? path : std::string();
+}
+
+}  // namespace parlate
