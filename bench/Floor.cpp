@@ -72,22 +72,27 @@ class Reader {
   std::size_t end_ = 0;
 };
 
-/// A name that is stored with every ID.
-void Get(Reader& in, Named& named) {
-  named.id = in.Int();
-  in.Text(named.name);
+void Get(Reader& in, Row& row) {
+  row.id = in.Int();
+  in.Text(row.name);
 }
 
-/// A name that is stored with an ID that there is.
-void GetActor(Reader& in, Named& named) {
-  named.id = in.Int();
-  if (named.id > -1) in.Text(named.name);
+/// An ID with a name behind it.
+void GetNamed(Reader& in, std::int32_t& id) {
+  id = in.Int();
+  in.Take(in.Count());
+}
+
+/// An ID with a name behind it, unless it is -1.
+void GetActor(Reader& in, std::int32_t& id) {
+  id = in.Int();
+  if (id > -1) in.Take(in.Count());
 }
 
 void Get(Reader& in, std::vector<Flag>& flags) {
   flags.resize(in.Count());
   for (Flag& flag : flags) {
-    Get(in, flag.flag);
+    GetNamed(in, flag.flag);
     flag.value = in.Bool();
     flag.expiration = in.Int();
   }
@@ -112,7 +117,7 @@ void Get(Reader& in, Choice& choice) {
     in.Text(option.text);
     option.spoken = in.Bool();
     GetActor(in, option.skill);
-    if (option.skill.id > -1) option.level = in.Int();
+    if (option.skill > -1) option.level = in.Int();
     in.Text(option.label);
     in.Text(option.audio);
     Get(in, option.flags);
@@ -127,12 +132,12 @@ void Get(Reader& in, CheckFlags& event) {
 }
 
 void Get(Reader& in, CheckObject& event) {
-  Get(in, event.object);
+  GetNamed(in, event.object);
   in.Text(event.label);
 }
 
 void Get(Reader& in, Transfer& event) {
-  Get(in, event.object);
+  GetNamed(in, event.object);
   event.count = in.Int();
   GetActor(in, event.from);
   GetActor(in, event.to);
@@ -206,10 +211,10 @@ void Read(Reader& in, Event& event) {
 
 void Get(Reader& in, Event& event) {
   static constexpr void (*kReaders[])(Reader&, Event&) = {
-      Read<Speech>, Read<Choice>,    Read<SetFlags>, Read<CheckFlags>, Read<CheckObject>,
-      Read<Transfer>, Read<Camera>,  Read<Animation>, Read<Trade>,     Read<Jump>,
-      Read<Random>, Read<Text>,      Read<Goal>,     Read<Text>,       Read<Points>,
-      Read<Credits>, Read<Persona>,  Read<Text>,     Read<End>};
+      Read<Speech>,   Read<Choice>,  Read<SetFlags>,  Read<CheckFlags>, Read<CheckObject>,
+      Read<Transfer>, Read<Camera>,  Read<Animation>, Read<Trade>,      Read<Jump>,
+      Read<Random>,   Read<Text>,    Read<Goal>,      Read<Text>,       Read<Points>,
+      Read<Credits>,  Read<Persona>, Read<Text>,      Read<End>};
   event.place = in.Int();
   event.key = in.Int();
   event.type = in.Int();
@@ -241,7 +246,11 @@ void Get(Reader& in, Conversation& con) {
 /// One buffer for the whole file.
 class Writer {
  public:
-  explicit Writer(std::size_t expectedSize) { bytes_.reserve(expectedSize); }
+  Writer(const File& file, std::size_t expectedSize) : tables(file.tables) {
+    bytes_.reserve(expectedSize);
+  }
+
+  const std::vector<Row> (&tables)[4];
 
   template <class Number>
   void Put(Number number) {
@@ -272,20 +281,24 @@ class Writer {
   std::string bytes_;
 };
 
-void Put(Writer& out, const Named& named) {
-  out.Int(named.id);
-  out.Text(named.name);
+enum Table : std::size_t { kActors, kFlags, kSkills, kObjects };
+
+void Put(Writer& out, const Row& row) {
+  out.Int(row.id);
+  out.Text(row.name);
 }
 
-void PutActor(Writer& out, const Named& named) {
-  out.Int(named.id);
-  if (named.id > -1) out.Text(named.name);
+void PutNamed(Writer& out, Table table, std::int32_t id) {
+  out.Int(id);
+  if (id > -1) out.Text(out.tables[table][static_cast<std::size_t>(id)].name);
 }
+
+void PutActor(Writer& out, std::int32_t id) { PutNamed(out, kActors, id); }
 
 void Put(Writer& out, const std::vector<Flag>& flags) {
   out.Count(flags.size());
   for (const Flag& flag : flags) {
-    Put(out, flag.flag);
+    PutNamed(out, kFlags, flag.flag);
     out.Bool(flag.value);
     out.Int(flag.expiration);
   }
@@ -309,8 +322,8 @@ void Put(Writer& out, const Choice& choice) {
     out.Int(option.id);
     out.Text(option.text);
     out.Bool(option.spoken);
-    PutActor(out, option.skill);
-    if (option.skill.id > -1) out.Int(option.level);
+    PutNamed(out, kSkills, option.skill);
+    if (option.skill > -1) out.Int(option.level);
     out.Text(option.label);
     out.Text(option.audio);
     Put(out, option.flags);
@@ -325,12 +338,12 @@ void Put(Writer& out, const CheckFlags& event) {
 }
 
 void Put(Writer& out, const CheckObject& event) {
-  Put(out, event.object);
+  PutNamed(out, kObjects, event.object);
   out.Text(event.label);
 }
 
 void Put(Writer& out, const Transfer& event) {
-  Put(out, event.object);
+  PutNamed(out, kObjects, event.object);
   out.Int(event.count);
   PutActor(out, event.from);
   PutActor(out, event.to);
@@ -445,9 +458,9 @@ File Load(const std::string& path) {
   file.missions.resize(in.Count());
   for (std::int32_t& mission : file.missions) mission = in.Int();
   in.Int();
-  for (std::vector<Named>& table : file.tables) {
+  for (std::vector<Row>& table : file.tables) {
     table.resize(in.Count());
-    for (Named& row : table) Get(in, row);
+    for (Row& row : table) Get(in, row);
   }
   file.nextKey = in.Int();
   file.conversations.resize(in.Count());
@@ -456,7 +469,7 @@ File Load(const std::string& path) {
 }
 
 std::size_t Save(const File& file, const std::string& path, std::size_t expectedSize) {
-  Writer out(expectedSize);
+  Writer out(file, expectedSize);
   out.Raw(kMagic);
   out.Put('\x1A');
   out.Int(file.version);
@@ -469,14 +482,14 @@ std::size_t Save(const File& file, const std::string& path, std::size_t expected
   out.Count(file.missions.size());
   for (const std::int32_t mission : file.missions) out.Int(mission);
   std::size_t tableBytes = 0;
-  for (const std::vector<Named>& table : file.tables) {
+  for (const std::vector<Row>& table : file.tables) {
     tableBytes += 4;
-    for (const Named& row : table) tableBytes += 8 + row.name.size();
+    for (const Row& row : table) tableBytes += 8 + row.name.size();
   }
   out.Count(tableBytes);
-  for (const std::vector<Named>& table : file.tables) {
+  for (const std::vector<Row>& table : file.tables) {
     out.Count(table.size());
-    for (const Named& row : table) Put(out, row);
+    for (const Row& row : table) Put(out, row);
   }
   out.Int(file.nextKey);
   out.Count(file.conversations.size());

@@ -7,24 +7,24 @@
 
 /// The yardstick of the loader and the saver: the records of a version-28 file as plain structs
 /// that hold their texts and lists by value, as one would write them down from the format. Nothing
-/// is keyed, looked up, checked, healed or shared. Names that stand beside an ID are kept, as they
-/// have to be written again.
+/// is keyed, checked, healed or shared. As in the model, a name that stands beside an ID is not
+/// kept: it is written from its table, whose rows are taken to be numbered from 0.
 namespace parlate::bench::floor {
 
-struct Named {
-  std::int32_t id = -1;
+struct Row {
+  std::int32_t id = 0;
   std::string name;
 };
 
 struct Flag {
-  Named flag;
+  std::int32_t flag = 0;
   bool value = false;
   std::int32_t expiration = 0;
 };
 
 struct Speech {
-  Named speaker;
-  Named listener;
+  std::int32_t speaker = -1;
+  std::int32_t listener = -1;
   std::string text;
   std::string audio;
   bool continued = false;
@@ -36,7 +36,7 @@ struct Option {
   std::int32_t id = 0;
   std::string text;
   bool spoken = false;
-  Named skill;
+  std::int32_t skill = -1;
   std::int32_t level = 0;
   std::string label;
   std::string audio;
@@ -59,15 +59,15 @@ struct CheckFlags {
 };
 
 struct CheckObject {
-  Named object;
+  std::int32_t object = 0;
   std::string label;
 };
 
 struct Transfer {
-  Named object;
+  std::int32_t object = 0;
   std::int32_t count = 0;
-  Named from;
-  Named to;
+  std::int32_t from = -1;
+  std::int32_t to = -1;
   std::string label;
 };
 
@@ -81,7 +81,7 @@ struct Camera {
 };
 
 struct Animation {
-  Named pawn;
+  std::int32_t pawn = -1;
   std::string sequence;
   std::int32_t mode = 0;
   std::int32_t length = 0;
@@ -89,7 +89,7 @@ struct Animation {
 };
 
 struct Trade {
-  Named pawn;
+  std::int32_t pawn = -1;
 };
 
 struct Jump {
@@ -137,8 +137,8 @@ struct Event {
   std::int32_t key = 0;
   std::int32_t type = 0;
   std::string label;
-  std::variant<Speech, Choice, SetFlags, CheckFlags, CheckObject, Transfer, Camera, Animation,
-               Trade, Jump, Random, Text, Goal, Points, Credits, Persona, End>
+  std::variant<End, Speech, Choice, SetFlags, CheckFlags, CheckObject, Transfer, Camera, Animation,
+               Trade, Jump, Random, Text, Goal, Points, Credits, Persona>
       payload;
 };
 
@@ -151,7 +151,7 @@ struct Conversation {
   std::string createdBy;
   double updated = 0;
   std::string updatedBy;
-  Named owner;
+  std::int32_t owner = -1;
   bool holoCall = false;
   std::string notes;
   bool switches[10] = {};
@@ -169,7 +169,7 @@ struct File {
   std::string audioPackage;
   std::string notes;
   std::vector<std::int32_t> missions;
-  std::vector<Named> tables[4];
+  std::vector<Row> tables[4];  ///< Actors, flags, skills, objects.
   std::int32_t nextKey = 0;
   std::vector<Conversation> conversations;
 };

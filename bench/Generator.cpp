@@ -2,8 +2,9 @@
 
 #include <array>
 #include <bit>
-#include <cstring>
+#include <cstddef>
 #include <string_view>
+#include <utility>
 
 namespace parlate::bench {
 
@@ -111,18 +112,24 @@ class FileMaker {
     out_.Int(1);
   }
 
-  template <class Name>
-  void Table(int rows, Name name) {
-    out_.Int(rows);
-    for (int id = 0; id < rows; ++id) out_.Named(id, name(id));
-  }
+  struct Table {
+    int rows;
+    std::string (*name)(int id);
+  };
 
   void Tables() {
-    out_.Int(0);  // the block size, which nobody reads
-    Table(kActors, ActorName);
-    Table(kFlags, FlagName);
-    Table(kSkills, SkillName);
-    Table(kObjects, ObjectName);
+    static constexpr std::array<Table, 4> kTables = {
+        {{kActors, ActorName}, {kFlags, FlagName}, {kSkills, SkillName}, {kObjects, ObjectName}}};
+    std::size_t size = 0;
+    for (const Table& table : kTables) {
+      size += 4;
+      for (int id = 0; id < table.rows; ++id) size += 8 + table.name(id).size();
+    }
+    out_.Int(static_cast<std::int32_t>(size));
+    for (const Table& table : kTables) {
+      out_.Int(table.rows);
+      for (int id = 0; id < table.rows; ++id) out_.Named(id, table.name(id));
+    }
   }
 
   void Actor() {
@@ -150,9 +157,9 @@ class FileMaker {
   /// Words up to about `length` characters.
   void Sentence(int length) {
     static constexpr std::array<std::string_view, 24> kWords = {
-        "the",   "gate",  "is",    "closed", "tonight", "and",  "nobody", "will",
-        "come",  "until", "morning", "you",  "should",  "have", "asked",  "me",
-        "about", "that",  "before", "they",  "left",    "for",  "harbour", "again"};
+        "the",   "gate",  "is",      "closed", "tonight", "and",  "nobody",  "will",
+        "come",  "until", "morning", "you",    "should",  "have", "asked",   "me",
+        "about", "that",  "before",  "they",   "left",    "for",  "harbour", "again"};
     sentence_.clear();
     while (static_cast<int>(sentence_.size()) < length) {
       if (!sentence_.empty()) sentence_ += ' ';

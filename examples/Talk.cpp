@@ -8,9 +8,7 @@ namespace parlate::example {
 
 namespace {
 
-std::string TwoDigits(int number) {
-  return (number < 10 ? "0" : "") + std::to_string(number);
-}
+std::string TwoDigits(int number) { return (number < 10 ? "0" : "") + std::to_string(number); }
 
 }  // namespace
 
@@ -38,11 +36,12 @@ template <class Event>
 Talk& Talk::Add(std::int32_t eventType, Event event) {
   auto item = std::make_shared<EventItem>();
   item->listPos = static_cast<std::int32_t>(con_.events.Count());
-  item->key = con_.NextEventKey();
+  const std::int32_t key = con_.NextEventKey();
+  item->key = key;
   item->eventLabel = std::exchange(nextLabel_, {});
   item->SetEventObject(eventType, std::move(event));
   last_ = item.get();
-  con_.events.Add(item->key, std::move(item));
+  con_.events.Add(key, std::move(item));
   return *this;
 }
 

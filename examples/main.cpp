@@ -24,8 +24,8 @@ std::string LanternQuay() {
       "Lantern Quay: the first night of a new lamp-lighter.\r\n"
       "Everybody on the quay has a reason to be eleven minutes late.\r\n"
       "\r\n"
-      "The game itself sets LampsLit, LampSevenLit and LampSevenDark when a lamp changes hands "
-      "with the wind – conversations only agree on it beforehand.");
+      "The game sets LampsLit and LampSevenLit when the lamps are lit. Flags that no conversation "
+      "asks for are read by the scenes – the gulls do remember who bowed to them.");
   script.SetMissions({1, 2});
   WriteLampHouse(script);
   WriteFerry(script);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
@@ -15,7 +16,10 @@ namespace parlate {
 
 /// The ordered, 1-based collection of the model for items whose key is the decimal text of a
 /// number. The key is kept as that number. The collection owns its items together with whoever
-/// else holds them: a deleted event, say, that an editor still shows.
+/// else holds them: a deleted event, say, that an editor still shows. A copy shares the items.
+///
+/// Keys come in ascending order as long as nobody inserts in the middle. Until then they are found
+/// without an index, which would cost memory for every list of every event.
 template <class Item>
 class KeyedCollection {
  public:
@@ -49,6 +53,16 @@ class KeyedCollection {
     Base base_{};
   };
 
+  KeyedCollection() = default;
+  ~KeyedCollection() = default;
+  KeyedCollection(const KeyedCollection& other)
+      : entries_(other.entries_), ascending_(other.ascending_) {}
+  KeyedCollection(KeyedCollection&&) noexcept = default;
+  KeyedCollection& operator=(const KeyedCollection& other) {
+    return *this = KeyedCollection(other);
+  }
+  KeyedCollection& operator=(KeyedCollection&&) noexcept = default;
+
   [[nodiscard]] std::size_t Count() const { return entries_.size(); }
   [[nodiscard]] bool Empty() const { return entries_.empty(); }
 
@@ -62,28 +76,32 @@ class KeyedCollection {
 
   /// Appends; RuntimeError 457 if the key is taken.
   void Add(std::int32_t key, Pointer item) {
-    RefuseTaken(key);
+    const bool ascends = entries_.empty() || (ascending_ && entries_.back().key < key);
+    if (!ascends) RefuseTaken(key);
     entries_.push_back({key, std::move(item)});
-    if (index_.Covers(entries_.size() - 1)) index_.Append(HashAt());
+    ascending_ = ascends;
+    if (index_ && index_->Covers(entries_.size() - 1)) index_->Append(HashAt());
   }
 
   /// Puts the item ahead of the one with the key `before`; errors 457 and 5.
   void AddBefore(std::int32_t key, Pointer item, std::int32_t before) {
     RefuseTaken(key);
-    const auto at = entries_.begin() + static_cast<std::ptrdiff_t>(RequirePosition(before));
-    entries_.insert(at, {key, std::move(item)});
-    index_.Clear();
+    const std::size_t at = RequirePosition(before);
+    ascending_ = ascending_ && key < before && (at == 0 || entries_[at - 1].key < key);
+    entries_.insert(entries_.begin() + static_cast<std::ptrdiff_t>(at), {key, std::move(item)});
+    index_.reset();
   }
 
   /// Removes the item of a key; RuntimeError 5 if there is none.
   void Remove(std::int32_t key) {
     entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(RequirePosition(key)));
-    index_.Clear();
+    index_.reset();
   }
 
   void Clear() {
     entries_.clear();
-    index_.Clear();
+    ascending_ = true;
+    index_.reset();
   }
 
   /// The item of a key, or nothing.
@@ -136,6 +154,7 @@ class KeyedCollection {
   }
 
   [[nodiscard]] std::size_t Position(std::int32_t key) const {
+    if (ascending_) return AscendingPosition(key);
     const auto isAt = [this, key](std::size_t i) { return entries_[i].key == key; };
     if (entries_.size() <= kScanLimit) {
       for (std::size_t i = 0; i < entries_.size(); ++i) {
@@ -143,10 +162,27 @@ class KeyedCollection {
       }
       return PositionIndex::kNotFound;
     }
-    if (!index_.Covers(entries_.size())) {
-      index_.Rebuild(entries_.size(), entries_.capacity(), HashAt());
+    if (!index_) index_ = std::make_unique<PositionIndex>();
+    if (!index_->Covers(entries_.size())) {
+      index_->Rebuild(entries_.size(), entries_.capacity(), HashAt());
     }
-    return index_.Find(static_cast<std::uint32_t>(key), isAt);
+    return index_->Find(static_cast<std::uint32_t>(key), isAt);
+  }
+
+  [[nodiscard]] std::size_t AscendingPosition(std::int32_t key) const {
+    if (entries_.empty() || key < entries_.front().key || key > entries_.back().key) {
+      return PositionIndex::kNotFound;
+    }
+    // Keys are mostly given out one by one, and then the first guess is right.
+    const std::int64_t guess = std::int64_t{key} - entries_.front().key;
+    if (guess < std::ssize(entries_) && entries_[static_cast<std::size_t>(guess)].key == key) {
+      return static_cast<std::size_t>(guess);
+    }
+    const auto found =
+        std::lower_bound(entries_.begin(), entries_.end(), key,
+                         [](const Entry& entry, std::int32_t than) { return entry.key < than; });
+    if (found->key != key) return PositionIndex::kNotFound;
+    return static_cast<std::size_t>(found - entries_.begin());
   }
 
   [[nodiscard]] std::size_t RequirePosition(std::int32_t key) const {
@@ -173,7 +209,9 @@ class KeyedCollection {
   }
 
   std::vector<Entry> entries_;
-  mutable PositionIndex index_;  // rebuilt on a look-up after an insertion or removal
+  // Made on the first look-up after an insertion or removal, if the keys do not ascend.
+  mutable std::unique_ptr<PositionIndex> index_;
+  bool ascending_ = true;
 };
 
 /// Removes every item of a collection.

@@ -1,6 +1,8 @@
 #include "model/EventItem.h"
 
 #include <array>
+#include <type_traits>
+#include <utility>
 
 #include "general/RuntimeError.h"
 #include "model/Tables.h"
@@ -18,14 +20,33 @@ std::string TypeName(std::int32_t eventType) {
 
 }  // namespace
 
-EventObject& EventItem::Object() const {
-  if (object_ == nullptr) throw RuntimeError(RuntimeError::kObjectVariableNotSet);
-  return *object_;
+const EventObject* EventItem::eventObject() const {
+  return std::visit(
+      []<class Event>(const Event& event) -> const EventObject* {
+        if constexpr (std::is_same_v<Event, std::monostate>) {
+          return nullptr;
+        } else {
+          return &event;
+        }
+      },
+      payload_);
 }
+
+EventObject* EventItem::eventObject() {
+  return const_cast<EventObject*>(std::as_const(*this).eventObject());
+}
+
+const EventObject& EventItem::Object() const {
+  const EventObject* object = eventObject();
+  if (object == nullptr) throw RuntimeError(RuntimeError::kObjectVariableNotSet);
+  return *object;
+}
+
+EventObject& EventItem::Object() { return const_cast<EventObject&>(std::as_const(*this).Object()); }
 
 void EventItem::CreateEventObject(std::int32_t newEventType) {
   const auto put = [this]<class Event>(std::in_place_type_t<Event>) {
-    object_ = &payload_.template emplace<Event>();
+    payload_.template emplace<Event>();
   };
   switch (newEventType) {
     case kSpeech:
@@ -68,7 +89,6 @@ void EventItem::CreateEventObject(std::int32_t newEventType) {
       return put(std::in_place_type<EventEnd>);
     default:
       payload_.emplace<std::monostate>();
-      object_ = nullptr;
   }
 }
 

@@ -31,8 +31,8 @@ class EventItem {
   EventItem& operator=(const EventItem&) = delete;
 
   /// The concrete object; nothing for an item that was not given one yet.
-  [[nodiscard]] EventObject* eventObject() { return object_; }
-  [[nodiscard]] const EventObject* eventObject() const { return object_; }
+  [[nodiscard]] EventObject* eventObject();
+  [[nodiscard]] const EventObject* eventObject() const;
 
   /// The concrete object as its class; nothing if it is of another.
   template <class Event>
@@ -61,9 +61,7 @@ class EventItem {
   template <class Event>
   Event& SetEventObject(std::int32_t newEventType, Event event) {
     eventType = newEventType;
-    Event& placed = payload_.emplace<Event>(std::move(event));
-    object_ = &placed;
-    return placed;
+    return payload_.emplace<Event>(std::move(event));
   }
 
   /// Two forwarders that no concrete class answers: RuntimeError 438.
@@ -97,9 +95,9 @@ class EventItem {
                                EventAddCredits, EventCheckPersona, EventComment, EventEnd>;
 
   /// The object, or RuntimeError 91 if there is none.
-  [[nodiscard]] EventObject& Object() const;
+  [[nodiscard]] EventObject& Object();
+  [[nodiscard]] const EventObject& Object() const;
 
-  EventObject* object_ = nullptr;  // into `payload_`
   Payload payload_;
 };
 

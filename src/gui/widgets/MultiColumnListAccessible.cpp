@@ -1,6 +1,5 @@
 #include "widgets/MultiColumnListAccessible.h"
 
-#include <limits>
 #include <memory>
 
 #include "widgets/MultiColumnList.h"
@@ -23,11 +22,11 @@ MultiColumnListAccessible::MultiColumnListAccessible(MultiColumnList& list)
                                     [this](int row) { MoveCells(row, 1); }),
                    QObject::connect(&list, &MultiColumnList::rowRemoved, &list,
                                     [this](int row) {
-                                      ForgetCells(row, row);
+                                      ForgetRow(row);
                                       MoveCells(row + 1, -1);
                                     }),
                    QObject::connect(&list, &MultiColumnList::rowsReset, &list,
-                                    [this] { ForgetCells(0, std::numeric_limits<int>::max()); })} {}
+                                    [this] { ForgetAllRows(); })} {}
 
 MultiColumnListAccessible::~MultiColumnListAccessible() {
   for (const QMetaObject::Connection& connection : connections_) QObject::disconnect(connection);
@@ -139,17 +138,22 @@ bool MultiColumnListAccessible::unselectRow(int row) {
   return true;
 }
 
-void MultiColumnListAccessible::ForgetCells(int firstRow, int lastRow) {
-  auto cell = cells_.lower_bound({firstRow, 0});
-  while (cell != cells_.end() && cell->first.first <= lastRow) {
-    QAccessible::deleteAccessibleInterface(cell->second);
-    cell = cells_.erase(cell);
-  }
+void MultiColumnListAccessible::ForgetRow(int row) {
+  Forget(cells_.lower_bound({row, 0}), cells_.lower_bound({row + 1, 0}));
+}
+
+void MultiColumnListAccessible::ForgetAllRows() {
+  Forget(cells_.lower_bound({0, 0}), cells_.end());
+}
+
+void MultiColumnListAccessible::Forget(Cells::iterator begin, Cells::iterator end) {
+  for (auto cell = begin; cell != end; ++cell) QAccessible::deleteAccessibleInterface(cell->second);
+  cells_.erase(begin, end);
 }
 
 // A cell that an assistive program holds goes with its row.
 void MultiColumnListAccessible::MoveCells(int firstRow, int rows) {
-  std::map<Place, QAccessible::Id> moved;
+  Cells moved;
   for (const auto& [place, id] : cells_) {
     const int row = place.first < firstRow ? place.first : place.first + rows;
     auto* const cell = dynamic_cast<MultiColumnListCell*>(QAccessible::accessibleInterface(id));

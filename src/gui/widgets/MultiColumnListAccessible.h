@@ -55,13 +55,16 @@ class MultiColumnListAccessible : public QAccessibleWidget, public QAccessibleTa
 
  private:
   using Place = std::pair<int, int>;  ///< Row and column; row -1 holds the heads.
+  using Cells = std::map<Place, QAccessible::Id>;
 
   [[nodiscard]] MultiColumnList& List() const;
   [[nodiscard]] QAccessibleInterface* CellAt(Place place) const;
-  void ForgetCells(int firstRow, int lastRow);
+  void ForgetRow(int row);
+  void ForgetAllRows();
+  void Forget(Cells::iterator begin, Cells::iterator end);
   void MoveCells(int firstRow, int rows);
 
-  mutable std::map<Place, QAccessible::Id> cells_;
+  mutable Cells cells_;
   std::array<QMetaObject::Connection, 3> connections_;
 };
 

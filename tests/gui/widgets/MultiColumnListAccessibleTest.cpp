@@ -74,8 +74,8 @@ TEST_F(MultiColumnListAccessibleTest, TheDescriptionTellsTheMeaningOfTheColorAnd
 
 TEST_F(MultiColumnListAccessibleTest, ACellStandsWhereItIsDrawn) {
   const QRect onScreen = Cell(1, 1)->rect();
-  EXPECT_EQ(onScreen.topLeft(), Area()->mapToGlobal(list_.CellRect(1, 1).topLeft()));
-  EXPECT_EQ(onScreen.size(), list_.CellRect(1, 1).size());
+  EXPECT_EQ(onScreen.topLeft(), Area()->mapToGlobal(list_.CellRect(list_.RowRect(1), 1).topLeft()));
+  EXPECT_EQ(onScreen.size(), list_.CellRect(list_.RowRect(1), 1).size());
   EXPECT_EQ(Interface().childAt(onScreen.center().x(), onScreen.center().y()), Cell(1, 1));
   const QPoint head = Interface().child(1)->rect().center();
   EXPECT_EQ(Interface().childAt(head.x(), head.y()), Interface().child(1));

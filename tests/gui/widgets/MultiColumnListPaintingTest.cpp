@@ -127,7 +127,7 @@ TEST_F(MultiColumnListPaintingTest, ALightLineStandsBetweenTheRows) {
 TEST_F(MultiColumnListPaintingTest, ATextEndsAtTheRightEdgeOfItsColumn) {
   list_.SetColumnWidth(0, 60);
   rows_.AddItem({"MMMMMMMMMMMMMMMMMMMMMMMMMMMM", "", -1, -1});
-  const QRect cell = list_.CellRect(0, 0);
+  const QRect cell = list_.CellRect(list_.RowRect(0), 0);
   const QRect behind(cell.right() + 1, cell.top(), 200, cell.height() - 1);
   EXPECT_EQ(CountPixels(behind, qRgb(255, 255, 255)), 200 * (cell.height() - 1));
   EXPECT_GT(CountDark(cell), 20);
@@ -139,7 +139,7 @@ TEST_F(MultiColumnListPaintingTest, ACutTextEndsInAnEllipsis) {
   rows_.AddItem({"MMMMMMMMMMMM", "", -1, -1});
   const QImage cut = Picture();
   rows_.SetText(0, std::string("MMMMMMMMMMMM").substr(0, 1));
-  const QRect cell = list_.CellRect(0, 0);
+  const QRect cell = list_.CellRect(list_.RowRect(0), 0);
   ASSERT_NE(Picture(), cut);
   const QString shown = list_.fontMetrics().elidedText("MMMMMMMMMMMM", Qt::ElideRight, 46);
   ASSERT_TRUE(shown.endsWith(QChar(0x2026)));

@@ -109,8 +109,8 @@ TEST_F(MultiColumnListTest, ReplacingAllRowsGoesBackToTheTop) {
 }
 
 TEST_F(MultiColumnListTest, ANewWidthLeavesTheTopRowAtTheTop) {
-  const std::string word = WideWord();
-  for (int i = 0; i < 50; ++i) rows_.AddItem({"row", word + " " + word, -1, -1});
+  const std::string twoLines = WideWord() + " " + WideWord();
+  for (int i = 0; i < 50; ++i) rows_.AddItem({"row", twoLines, -1, -1});
   Settle();
   list_.verticalScrollBar()->setValue(list_.RowRect(20).top());
   ASSERT_EQ(list_.RowRect(20).top(), 0);
@@ -208,7 +208,7 @@ TEST_F(MultiColumnListTest, WideColumnsScrollSidewaysWithTheirHeads) {
   Settle();
   EXPECT_EQ(list_.horizontalScrollBar()->maximum(), 600 + 2 * kColumnWidth - Area()->width());
   list_.horizontalScrollBar()->setValue(50);
-  EXPECT_EQ(list_.CellRect(0, 1).left(), 550);
+  EXPECT_EQ(list_.CellRect(list_.RowRect(0), 1).left(), 550);
   EXPECT_EQ(list_.HeadRect(1).left(), 550);
   EXPECT_EQ(list_.ColumnAt(QPoint(549, 5)), 0);
 }

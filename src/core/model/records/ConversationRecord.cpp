@@ -4,6 +4,7 @@
 
 #include "general/BinaryFile.h"
 #include "general/Rounding.h"
+#include "general/SharedBlocks.h"
 #include "model/Conversation.h"
 #include "model/records/RecordReader.h"
 
@@ -19,12 +20,14 @@ constexpr std::size_t kLeastEventSize = 16;
 
 void LoadEvents(RecordReader& in, Conversation& con) {
   const std::size_t count = in.file.ReadCount("events");
-  con.events.Reserve(in.file.Plausible(count, kLeastEventSize));
+  const std::size_t plausible = in.file.Plausible(count, kLeastEventSize);
+  con.events.Reserve(plausible);
+  SharedBlocks<EventItem> items(plausible);
   for (std::size_t i = 0; i < count; ++i) {
     InRecord(
         in.file, [i] { return "event " + std::to_string(i + 1); },
         [&] {
-          auto event = std::make_shared<EventItem>();
+          std::shared_ptr<EventItem> event = items.Make();
           event->LoadEvent(con, in);
           const std::int32_t key = event->key;
           con.events.Add(key, std::move(event));

@@ -52,13 +52,14 @@ void EventItem::LoadEvent(Conversation& conversation, RecordReader& in) {
   eventLabel = in.file.ReadFileString();
   conversation.AddLabel(eventLabel);
   CreateEventObject(eventType);
-  if (object_ == nullptr) {
+  EventObject* object = eventObject();
+  if (object == nullptr) {
     RuntimeError error(RuntimeError::kObjectVariableNotSet,
                        "there is no event type " + std::to_string(eventType));
     error.SetOffset(typeOffset);
     throw error;
   }
-  object_->LoadEvent(in);
+  object->LoadEvent(in);
 }
 
 // 0: actorref ActorSpeakerID, actorref ActorSpeakingToID, str speech, str audioFile,

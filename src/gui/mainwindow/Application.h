@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QApplication>
+#include <functional>
+#include <string>
+
+#include "general/Prompts.h"
+#include "shell/Shell.h"
+
+namespace parlate {
+
+/// The application with the last line of defence: a run-time error that no command handles ends
+/// the run, but first the open file is rescued and the user is told.
+class Application final : public QApplication {
+  Q_OBJECT
+
+ public:
+  Application(int& argc, char** argv);
+
+  /// What a fatal error rescues, and where it is told.
+  void Protect(Shell& shell, MessageBoxes& messages);
+
+  /// Runs `start`, and after it the event loop unless `start` says that the program ends at once.
+  /// Returns the program's exit code: 0, or 1 after a fatal error.
+  int Run(const std::function<bool()>& start);
+
+  bool notify(QObject* receiver, QEvent* event) override;
+
+ private:
+  void Fail(const std::exception& error);
+
+  Shell* shell_ = nullptr;
+  MessageBoxes* messages_ = nullptr;
+};
+
+/// Writes the open file of the shell to the recovery folder and tells the error and where the
+/// rescued file lies.
+void ReportFatalError(const std::exception& error, Shell& shell, MessageBoxes& messages);
+
+/// Where rescued files go: Parlate/recovery in the user's data folder.
+[[nodiscard]] std::string RecoveryFolder();
+
+}  // namespace parlate

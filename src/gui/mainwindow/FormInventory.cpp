@@ -1,0 +1,47 @@
+#include "mainwindow/FormInventory.h"
+
+#include "editors/frmMissingLabels.h"
+#include "editors/frmSettings.h"
+#include "mainwindow/frmAbout.h"
+#include "mainwindow/frmProgress.h"
+#include "mainwindow/frmSplash.h"
+
+namespace parlate {
+
+namespace {
+
+/// What the forms ask of the program, with nobody to answer.
+class NobodyBehind : public FileDialogs, public SettingsHost {
+ public:
+  std::string ShowOpen(const FileDialog& /*dialog*/) override { return {}; }
+  std::string ShowSave(const FileDialog& /*dialog*/) override { return {}; }
+  void UpdateLastFiles() override {}
+  void UpdateEventsList() override {}
+
+  ConversationDefaults defaults;
+};
+
+/// A form that needs a program behind it brings it along.
+class LoadedSettings : private NobodyBehind, public frmSettings {
+ public:
+  LoadedSettings() : frmSettings(defaults, *this, *this) {}
+};
+
+template <class Form>
+FormFactory Factory(const char* name) {
+  return {QString::fromLatin1(name), [] { return std::make_unique<Form>(); }};
+}
+
+}  // namespace
+
+std::vector<FormFactory> AllForms() {
+  return {
+      Factory<frmSplash>("frmSplash"),
+      Factory<frmAbout>("frmAbout"),
+      Factory<frmProgress>("frmProgress"),
+      Factory<frmMissingLabels>("frmMissingLabels"),
+      Factory<LoadedSettings>("frmSettings"),
+  };
+}
+
+}  // namespace parlate

@@ -1,0 +1,145 @@
+#pragma once
+
+#include <QAction>
+#include <QComboBox>
+#include <QHash>
+#include <QLabel>
+#include <QMainWindow>
+#include <QMenu>
+#include <QToolBar>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "editors/frmSettings.h"
+#include "mainwindow/SvgPicture.h"
+#include "mainwindow/frmProgress.h"
+#include "shell/Shell.h"
+#include "widgets/ConversationTreeModel.h"
+#include "widgets/ConversationTreeView.h"
+#include "widgets/MultiColumnList.h"
+
+namespace parlate {
+
+struct MenuItem;
+
+/// The main window: the tree of conversations beside the events of the selected one. What it
+/// shows is decided by the shell; the window paints it, and hands keys and clicks on.
+///
+/// Positions and sizes are kept in twips, as the settings store them; see TwipsConversion.
+class frmConvList final : public QMainWindow, private ShellView, private SettingsHost {
+  Q_OBJECT
+
+ public:
+  /// The doors to the user and the store of the settings; a test hands in its own.
+  frmConvList(MessageBoxes& messages, FileDialogs& dialogs, SettingsStore& settings);
+  ~frmConvList() override;
+
+  /// Everything up to the first sight of the window. False if the user, asked for a name at the
+  /// first start, declined to give settings: the program then ends.
+  bool InitMainWindow();
+  /// Shows the window and opens the file that the command line names, if any.
+  void Start(const std::string& commandLine);
+
+  [[nodiscard]] Shell& shell() { return shell_; }
+
+  /// Lays the window out round the splitter, whose wanted left edge is `x` twips.
+  void SizeControls(int x);
+  /// The last column of the list takes what the others leave.
+  void SizeEventColumns();
+
+  /// A command of a menu, a popup or the toolbar ("tlbCon/Save") by its name, or nothing.
+  [[nodiscard]] QAction* Command(const QString& name) const { return commands_.value(name); }
+  /// The three popups, which are no part of the menu bar.
+  [[nodiscard]] std::vector<QMenu*> Popups() { return {&mnuConPopup_, &mnuEventPopup_, &mnuFlagPopup_}; }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  // ShellView
+  void CommandStatesChanged() override;
+  void LastFilesChanged() override;
+  void ShowTree(bool visible) override;
+  int ShowSettings() override;
+  bool ShowMissingLabels(const std::vector<BadLabelRow>& rows, bool bSaving) override;
+
+  // SettingsHost
+  void UpdateLastFiles() override { shell_.UpdateLastFiles(); }
+  void UpdateEventsList() override { shell_.UpdateEventsList(nullptr); }
+
+  // Construction
+  void BuildMenus();
+  void BuildMenu(QMenu& menu, const std::vector<MenuItem>& items);
+  void BuildEventTypeMenu(QMenu& menu, const QString& itemName, bool plural);
+  void BuildPopups();
+  void BuildToolbar();
+  void BuildPanes();
+  void ConnectCommands();
+  void ConnectTree();
+  void ConnectList();
+  void On(const QString& command, std::function<void()> handler);
+
+  void ShowSplash();
+  void ApplyDefaults();
+  void PlaceWindow();
+  void ApplyToolbarVisible();
+  void ApplyStatusBarVisible();
+  void ApplyStates(const std::vector<CommandState>& states);
+  void Unload();
+  void StoreDefaults();
+
+  // Handlers
+  void TreeMouseReleased(Qt::MouseButton button, QPoint globalPosition);
+  void ShowTreePopup(QPoint globalPosition);
+  void TreeKeyReleased(int key, Qt::KeyboardModifiers modifiers);
+  void ListKeyPressed(QKeyEvent* event);
+  void ShowListPopup(QPoint globalPosition);
+  void SelectionOfListChanged();
+  void ToggleExpandList();
+  void ToggleShowAudioFiles();
+  void FocusFindBox();
+
+  // Splitter
+  bool SplitterEvent(QEvent* event);
+  void BeginSplitterDrag();
+  void MoveSplitter(int mouseX);
+  void EndSplitterDrag();
+
+  [[nodiscard]] int WidthInTwips() const;
+
+  MessageBoxes& messages_;
+  FileDialogs& dialogs_;
+  SettingsStore& settings_;
+  frmProgress progress_;
+  Shell shell_;
+  ConversationTreeModel treeModel_;
+
+  QHash<QString, QAction*> commands_;
+  QMenu mnuConPopup_;
+  QMenu mnuEventPopup_;
+  QMenu mnuFlagPopup_;
+  QToolBar tlbCon_;
+  QLabel pnlFind_;
+  QComboBox cboFind_;
+  QLabel statusText_;
+  QWidget client_;
+  QWidget picTitles_;
+  QLabel lblConversations_;
+  QLabel lblEvents_;
+  ConversationTreeView tvCons_;
+  MultiColumnList lstEvents_;
+  QWidget imgSplitter_;
+  QWidget picSplitter_;
+  SvgPicture picLogo_;
+
+  int splitterLeft_ = 0;      ///< Twips.
+  int splitterBarLeft_ = 0;   ///< Twips; of the bar that shows during a drag.
+  bool bMovingSplitter_ = false;
+  bool sizingColumns_ = false;
+  bool loaded_ = false;  ///< `InitMainWindow` is through, so the window may be laid out.
+};
+
+}  // namespace parlate

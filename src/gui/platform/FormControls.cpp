@@ -1,0 +1,35 @@
+#include "platform/FormControls.h"
+
+#include <QAbstractButton>
+#include <QLabel>
+
+namespace parlate {
+
+namespace {
+
+QString WithoutAccessKey(QString caption) { return caption.remove(u'&'); }
+
+}  // namespace
+
+void NameControl(QWidget& control, const char* name, const QString& accessibleName) {
+  control.setObjectName(QString::fromLatin1(name));
+  control.setAccessibleName(accessibleName);
+}
+
+void SetUpButton(QAbstractButton& button, const char* name, const QString& caption) {
+  NameControl(button, name, WithoutAccessKey(caption));
+  button.setText(caption);
+}
+
+void SetUpLabel(QLabel& label, const char* name, const QString& text) {
+  NameControl(label, name, text);
+  label.setTextFormat(Qt::PlainText);
+  label.setText(text);
+}
+
+void SetUpField(QWidget& field, const char* name, QLabel& label) {
+  NameControl(field, name, WithoutAccessKey(label.text()));
+  label.setBuddy(&field);
+}
+
+}  // namespace parlate

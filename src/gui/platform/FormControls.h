@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+
+class QAbstractButton;
+class QLabel;
+class QWidget;
+
+namespace parlate {
+
+/// Gives a control the name by which it is found and the one that is read to those who do not see
+/// it.
+void NameControl(QWidget& control, const char* name, const QString& accessibleName);
+
+/// As NameControl, with the caption as accessible name: an "&" in it marks the access key.
+void SetUpButton(QAbstractButton& button, const char* name, const QString& caption);
+
+/// A label whose text is shown as it is.
+void SetUpLabel(QLabel& label, const char* name, const QString& text);
+
+/// A field whose accessible name is the text of the label before it.
+void SetUpField(QWidget& field, const char* name, QLabel& label);
+
+}  // namespace parlate

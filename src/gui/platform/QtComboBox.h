@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QComboBox>
+#include <QCompleter>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "model/Controls.h"
+#include "platform/RowOrder.h"
+
+namespace parlate {
+
+/// A combo box whose text can be typed, as the model asks for it. Rows are added, removed and
+/// selected through the operations of parlate::ComboBox alone.
+///
+/// Typing offers the rows that begin with the text, whatever their case, in a popup, and never
+/// changes what was typed: whether a typed name is a row is decided by its exact letters, and not
+/// here. Text is kept to the code page.
+class QtComboBox final : public QComboBox, public ComboBox {
+  Q_OBJECT
+
+ public:
+  explicit QtComboBox(QWidget* parent = nullptr, RowOrder order = RowOrder::AsAdded);
+
+  void Clear() override;
+  /// Adds a row with the number 0 behind it. Neither the text nor the selected row changes.
+  void AddItem(const std::string& text) override;
+  [[nodiscard]] int ListCount() const override { return static_cast<int>(rows_.size()); }
+  /// The text of a row, empty for an index without one.
+  [[nodiscard]] std::string List(int index) const override;
+  /// The number behind a row, 0 for an index without one.
+  [[nodiscard]] std::int32_t ItemData(int index) const override;
+  void SetItemData(int index, std::int32_t value) override;
+  /// The selected row; -1 after a text was typed or set, even if a row has the same text.
+  [[nodiscard]] int ListIndex() const override;
+  /// Selects a row and shows its text; -1 empties the text. An index without a row counts as -1.
+  void SetListIndex(int index) override;
+  [[nodiscard]] std::string Text() const override;
+  void SetText(const std::string& text) override;
+  void SelectText(int start, int length) override;
+  void SetFocus() override;
+  [[nodiscard]] bool Visible() const override { return isVisible(); }
+
+ signals:
+  /// ListIndex or the text changed, by hand or by the program.
+  void choiceChanged();
+
+ private:
+  struct Row {
+    std::string text;
+    std::int32_t itemData = 0;
+  };
+
+  [[nodiscard]] bool Holds(int index) const { return index >= 0 && index < ListCount(); }
+  void TakeAsTyped();
+  void TellIfChanged();
+
+  RowOrder order_;
+  std::vector<Row> rows_;  ///< What the toolkit shows, ready for the many look-ups of a fill.
+  QCompleter completer_;
+  std::optional<QString> typed_;  ///< The text that was typed or set, until a row is selected.
+  int toldIndex_ = -1;
+  QString toldText_;
+};
+
+}  // namespace parlate
