@@ -115,9 +115,8 @@ double BinaryReader::ReadDouble() {
   return std::bit_cast<double>(bits);
 }
 
-std::size_t BinaryReader::ReadLength() {
-  const std::uint64_t offset = Offset();
-  const std::int32_t length = ReadInt32();
+void BinaryReader::RequireLength(std::int32_t length) const {
+  const std::uint64_t offset = Offset() - sizeof(length);
   if (length < 0) {
     Fail(RuntimeError::kInvalidProcedureCall, offset,
          "string has the negative length " + std::to_string(length));
@@ -126,7 +125,6 @@ std::size_t BinaryReader::ReadLength() {
     Fail(RuntimeError::kInputPastEndOfFile, offset,
          "string of " + std::to_string(length) + " bytes runs past the end of the file");
   }
-  return static_cast<std::size_t>(length);
 }
 
 std::string_view BinaryReader::ReadUpTo(std::size_t count) {

@@ -112,8 +112,24 @@ class BinaryReader {
   /// A length and that many bytes.
   std::string ReadFileString() { return std::string(ReadText()); }
 
+  /// The same in place. A text that is too long for that gets just the room it needs, where
+  /// assigning would make some to grow.
+  void ReadFileString(std::string& text) {
+    const std::string_view read = ReadText();
+    if (read.size() <= text.capacity()) {
+      text.assign(read);
+    } else {
+      text = std::string(read);
+    }
+  }
+
   /// The same without a copy; the view is good until the next read.
-  std::string_view ReadText() { return ReadBytes(ReadLength()); }
+  std::string_view ReadText() {
+    const std::int32_t length = ReadInt32();
+    const bool inWindow = length >= 0 && static_cast<std::size_t>(length) <= limit_ - position_;
+    if (!inWindow) RequireLength(length);
+    return ReadBytes(static_cast<std::size_t>(length));
+  }
 
   /// `count` bytes; the view is good until the next read.
   std::string_view ReadBytes(std::size_t count) { return {Take(count), count}; }
@@ -144,7 +160,8 @@ class BinaryReader {
     return bytes;
   }
 
-  std::size_t ReadLength();
+  /// Fails if a text of that length, which was just read, is not to be had.
+  void RequireLength(std::int32_t length) const;
   void Fetch(std::size_t count);
   [[noreturn]] void Fail(int number, std::uint64_t offset, std::string detail) const;
 

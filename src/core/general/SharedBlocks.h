@@ -17,7 +17,7 @@ class SharedBlocks {
 
   [[nodiscard]] std::shared_ptr<Item> Make() {
     if (used_ == size_) StartBlock();
-    return {block_, &block_[used_++]};
+    return {block_, block_.get() + used_++};
   }
 
  private:

@@ -59,8 +59,8 @@ Boolean ConversationFile::IsConNameInUse(const std::string& name) const {
 void ConversationFile::SaveMissions(const ListBox& list) {
   const int count = list.ListCount();
   missionCount_ = count;
+  missions_.assign(static_cast<std::size_t>(count), 0);  // a save writes the two together
   if (count == 0) throw RuntimeError(RuntimeError::kSubscriptOutOfRange);
-  missions_.assign(static_cast<std::size_t>(count), 0);
   for (int i = 0; i < count; ++i) missions_[static_cast<std::size_t>(i)] = list.ItemData(i);
 }
 

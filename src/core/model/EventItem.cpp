@@ -44,9 +44,9 @@ const EventObject& EventItem::Object() const {
 
 EventObject& EventItem::Object() { return const_cast<EventObject&>(std::as_const(*this).Object()); }
 
-void EventItem::CreateEventObject(std::int32_t newEventType) {
-  const auto put = [this]<class Event>(std::in_place_type_t<Event>) {
-    payload_.template emplace<Event>();
+EventObject* EventItem::CreateEventObject(std::int32_t newEventType) {
+  const auto put = [this]<class Event>(std::in_place_type_t<Event>) -> EventObject* {
+    return &payload_.template emplace<Event>();
   };
   switch (newEventType) {
     case kSpeech:
@@ -89,6 +89,7 @@ void EventItem::CreateEventObject(std::int32_t newEventType) {
       return put(std::in_place_type<EventEnd>);
     default:
       payload_.emplace<std::monostate>();
+      return nullptr;
   }
 }
 

@@ -21,10 +21,22 @@ class BinaryWriter;
 /// in place. `eventType` and the class of the object agree at all times.
 class EventItem {
  public:
+  std::string eventLabel;  ///< Jump label, empty for none.
+
+ private:
+  using Payload = std::variant<std::monostate, EventSpeech, EventChoice, EventSetFlag,
+                               EventCheckFlag, EventCheckObject, EventTransferObject,
+                               EventMoveCamera, EventAnimation, EventTrade, EventJump, EventRandom,
+                               EventTrigger, EventAddGoal, EventAddNote, EventAddSkillPoints,
+                               EventAddCredits, EventCheckPersona, EventComment, EventEnd>;
+
+  // There are a million items in a large file: the numbers below stand in its unused tail.
+  [[no_unique_address]] Payload payload_;
+
+ public:
   std::int32_t listPos = 0;    ///< Zero-based row in the event list when it was last numbered.
   std::int32_t key = 0;        ///< Unique within the conversation; key of the collection too.
   std::int32_t eventType = 0;  ///< See `EventType`.
-  std::string eventLabel;      ///< Jump label, empty for none.
 
   EventItem() = default;
   EventItem(const EventItem&) = delete;  // the shared parts are copied by `Copy`
@@ -54,9 +66,9 @@ class EventItem {
         payload_);
   }
 
-  /// Puts a new object of the type in place of the present one. A code outside of 0 to 18 leaves
-  /// the item without an object.
-  void CreateEventObject(std::int32_t newEventType);
+  /// Puts a new object of the type in place of the present one and returns it. A code outside of 0
+  /// to 18 leaves the item without an object.
+  EventObject* CreateEventObject(std::int32_t newEventType);
   /// Puts a given object in place and sets `eventType` to its code.
   template <class Event>
   Event& SetEventObject(std::int32_t newEventType, Event event) {
@@ -88,17 +100,9 @@ class EventItem {
   void StoreTableData() const;
 
  private:
-  using Payload = std::variant<std::monostate, EventSpeech, EventChoice, EventSetFlag,
-                               EventCheckFlag, EventCheckObject, EventTransferObject,
-                               EventMoveCamera, EventAnimation, EventTrade, EventJump, EventRandom,
-                               EventTrigger, EventAddGoal, EventAddNote, EventAddSkillPoints,
-                               EventAddCredits, EventCheckPersona, EventComment, EventEnd>;
-
   /// The object, or RuntimeError 91 if there is none.
   [[nodiscard]] EventObject& Object();
   [[nodiscard]] const EventObject& Object() const;
-
-  Payload payload_;
 };
 
 /// The present code of an event type stored by an old version of the format.

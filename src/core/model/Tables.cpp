@@ -82,10 +82,9 @@ void AddFixedTableItem(std::int32_t tableType, const std::string& name, std::int
 TableItem& AddTableItem(std::int32_t tableType, const std::string& name) {
   if (TableItem* row = FindTableItemByName(tableType, name)) return *row;
   std::int32_t& next = Current().nextTableID.at(static_cast<std::size_t>(tableType));
-  const std::int32_t id = next;
+  if (next == INT32_MAX) throw RuntimeError(RuntimeError::kOverflow);
+  const std::int32_t id = next++;
   AddFixedTableItem(tableType, name, id);
-  if (id == INT32_MAX) throw RuntimeError(RuntimeError::kOverflow);
-  next = id + 1;
   return RequireTable(tableType).At(id);
 }
 

@@ -11,7 +11,8 @@ namespace parlate {
 /// The path up to its first point, wherever that stands, and ".lck".
 [[nodiscard]] std::string GetLockFileName(const std::string& path);
 
-/// The name in an existing lock. Nothing if there is no lock, or none that can be read.
+/// The name in an existing lock, empty if it is cut short. Nothing if there is no lock, or none
+/// that can be opened.
 [[nodiscard]] std::optional<std::string> ReadLockHolder(const std::string& path);
 
 /// Writes a lock that bears `username`; a RuntimeError when that fails.

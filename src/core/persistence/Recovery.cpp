@@ -3,11 +3,13 @@
 #include <array>
 #include <chrono>
 #include <cmath>
+#include <cstdint>
 #include <cstdio>
 #include <utility>
 
 #include "general/BinaryFile.h"
 #include "general/Paths.h"
+#include "model/Tables.h"
 #include "model/Workspace.h"
 
 namespace parlate {
@@ -39,6 +41,29 @@ class Silence final : public MessageBoxes, public ProgressDisplay {
   void End() override {}
 };
 
+/// Gives each flag that is named somewhere and has no row a row of its own. The other rows come
+/// back when the file is read; a flag does not, and its conversation could not be shown any more.
+void AddMissingFlags(const ConversationFile& file) {
+  const auto add = [](const FlagList& flags) {
+    for (const FlagRef& flag : flags) {
+      const std::int32_t id = flag.flagID;
+      if (id == INT32_MAX || GetTable(kFlagTable)->Find(id) != nullptr) continue;
+      AddFixedTableItem(kFlagTable, "Missing_" + std::to_string(id), id);
+    }
+  };
+  for (const Conversation& con : file.Conversations) {
+    add(con.flagRefs);
+    for (const EventItem& event : con.events) {
+      event.Visit([&add](const auto& object) {
+        if constexpr (requires { object.flagRefs; }) add(object.flagRefs);
+        if constexpr (requires { object.Choices; }) {
+          for (const ChoiceItem& choice : object.Choices) add(choice.flagRefs);
+        }
+      });
+    }
+  }
+}
+
 }  // namespace
 
 std::string RecoveryFileName(const std::string& conFileName, Date moment) {
@@ -48,9 +73,9 @@ std::string RecoveryFileName(const std::string& conFileName, Date moment) {
   const auto ofDay = static_cast<int>(std::lround((moment - day) * kSecondsOfDay));
   const year_month_day date(sys_days(1899y / December / 30) + days(static_cast<int>(day)));
   std::array<char, 64> text{};
-  std::snprintf(text.data(), text.size(), "-%04d%02u%02u-%02d%02d%02d", static_cast<int>(date.year()),
-                static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()),
-                ofDay / 3600, ofDay / 60 % 60, ofDay % 60);
+  std::snprintf(text.data(), text.size(), "-%04d%02u%02u-%02d%02d%02d",
+                static_cast<int>(date.year()), static_cast<unsigned>(date.month()),
+                static_cast<unsigned>(date.day()), ofDay / 3600, ofDay / 60 % 60, ofDay % 60);
   const std::string name = StripExtension(GetFileOnly(conFileName));
   return (name.empty() ? "untitled" : name) + text.data() + ".con";
 }
@@ -59,8 +84,10 @@ std::string WriteRecovery(ConversationFile& file, const std::string& folder,
                           const std::string& name) {
   Workspace& workspace = Workspace::Current();
   const bool before = std::exchange(workspace.writeMissingNames, true);
+  const Table flags = *GetTable(kFlagTable);
   const std::string path = folder + kPathSeparator + name;
   const bool written = ResumeNext([&] {
+    AddMissingFlags(file);
     CreateDirectoryPath(folder + kPathSeparator);
     FileSink sink(path);
     BinaryWriter writer(sink);
@@ -68,6 +95,7 @@ std::string WriteRecovery(ConversationFile& file, const std::string& folder,
     CollectionOrder order(file);
     file.SaveConversations(writer, {silence, silence, order});
   });
+  *GetTable(kFlagTable) = flags;
   workspace.writeMissingNames = before;
   return written ? path : std::string();
 }

@@ -11,7 +11,8 @@ namespace parlate {
 [[nodiscard]] std::string RecoveryFileName(const std::string& conFileName, Date moment);
 
 /// Writes all conversations of a file to a new file in `folder`, which is made if need be. What a
-/// plain save would stumble over, a reference to a missing row, is written without its name.
+/// plain save would stumble over, a reference to a missing row, is written without its name; a
+/// missing flag gets a row "Missing_" and its ID in the new file, so that this can be opened again.
 /// Returns the path, or nothing when the file could not be written whole.
 [[nodiscard]] std::string WriteRecovery(ConversationFile& file, const std::string& folder,
                                         const std::string& name);

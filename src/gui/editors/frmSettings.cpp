@@ -72,8 +72,7 @@ void frmSettings::SetUpControls() {
   SetUpBrowseButton(cmdBrowseConFilePath2, "cmdBrowseConFilePath(2)", Label2);
   NameControl(Frame1, "Frame1", QStringLiteral("Options"));
   Frame1.setFrameShape(QFrame::StyledPanel);
-  SetUpButton(chkExpandFlags, "chkExpandFlags",
-              QStringLiteral("Expand Flags on \"Expand All\""));
+  SetUpButton(chkExpandFlags, "chkExpandFlags", QStringLiteral("Expand Flags on \"Expand All\""));
   SetUpButton(chkConfirmationConDelete, "chkConfirmationConDelete",
               QStringLiteral("Confirmation on Conversation Delete"));
   SetUpButton(chkConfirmationEventDelete, "chkConfirmationEventDelete",
@@ -84,11 +83,6 @@ void frmSettings::SetUpControls() {
   SetUpButton(cmdOK, "cmdOK", QStringLiteral("&OK"));
   SetUpButton(cmdCancel, "cmdCancel", QStringLiteral("&Cancel"));
   cmdOK.setDefault(true);
-  // Return in a field confirms the dialog, whatever button stands next.
-  for (QPushButton* button : {&cmdBrowseConFilePath0, &cmdBrowseConFilePath1,
-                              &cmdBrowseConFilePath2, &cmdClearLastFiles, &cmdCancel}) {
-    button->setAutoDefault(false);
-  }
   KeepToCodePage(txtUsername);
 }
 

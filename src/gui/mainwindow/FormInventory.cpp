@@ -3,6 +3,7 @@
 #include "editors/frmMissingLabels.h"
 #include "editors/frmSettings.h"
 #include "mainwindow/frmAbout.h"
+#include "mainwindow/frmConvList.h"
 #include "mainwindow/frmProgress.h"
 #include "mainwindow/frmSplash.h"
 
@@ -27,6 +28,24 @@ class LoadedSettings : private NobodyBehind, public frmSettings {
   LoadedSettings() : frmSettings(defaults, *this, *this) {}
 };
 
+/// The main window with settings of its own, and nobody to answer its questions.
+struct NobodyAsked : public MessageBoxes, public FileDialogs, public SettingsStore {
+  Answer Show(const MessageBox& /*box*/) override { return Answer::Cancel; }
+  std::string ShowOpen(const FileDialog& /*dialog*/) override { return {}; }
+  std::string ShowSave(const FileDialog& /*dialog*/) override { return {}; }
+  [[nodiscard]] std::string Get(const std::string&, const std::string&, const std::string&,
+                                const std::string& fallback) const override {
+    return fallback;
+  }
+  void Set(const std::string&, const std::string&, const std::string&,
+           const std::string&) override {}
+};
+
+class LoadedConvList : private NobodyAsked, public frmConvList {
+ public:
+  LoadedConvList() : frmConvList(*this, *this, *this) { shell().UpdateCommandStates(); }
+};
+
 template <class Form>
 FormFactory Factory(const char* name) {
   return {QString::fromLatin1(name), [] { return std::make_unique<Form>(); }};
@@ -36,10 +55,8 @@ FormFactory Factory(const char* name) {
 
 std::vector<FormFactory> AllForms() {
   return {
-      Factory<frmSplash>("frmSplash"),
-      Factory<frmAbout>("frmAbout"),
-      Factory<frmProgress>("frmProgress"),
-      Factory<frmMissingLabels>("frmMissingLabels"),
+      Factory<LoadedConvList>("frmConvList"), Factory<frmSplash>("frmSplash"),        Factory<frmAbout>("frmAbout"),
+      Factory<frmProgress>("frmProgress"),    Factory<frmMissingLabels>("frmMissingLabels"),
       Factory<LoadedSettings>("frmSettings"),
   };
 }

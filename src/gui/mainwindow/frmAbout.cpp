@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "mainwindow/Icons.h"
 #include "mainwindow/frmSplash.h"
 #include "platform/FormControls.h"
 #include "settings/ConversationDefaults.h"
@@ -18,7 +19,7 @@ constexpr int kTextWidth = 340;
 }  // namespace
 
 frmAbout::frmAbout(QWidget* parent)
-    : QDialog(parent), picIcon(QStringLiteral(":/icons/parlate.svg"), kIconSize, this) {
+    : QDialog(parent), picIcon(IconPath(QStringLiteral("parlate")), kIconSize, this) {
   SetUpControls();
   BuildLayout();
   connect(&cmdOK, &QPushButton::clicked, this, &frmAbout::accept);

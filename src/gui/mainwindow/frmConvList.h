@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "editors/frmSettings.h"
+#include "mainwindow/NameDelegate.h"
 #include "mainwindow/SvgPicture.h"
 #include "mainwindow/frmProgress.h"
 #include "shell/Shell.h"
@@ -27,7 +28,7 @@ struct MenuItem;
 /// shows is decided by the shell; the window paints it, and hands keys and clicks on.
 ///
 /// Positions and sizes are kept in twips, as the settings store them; see TwipsConversion.
-class frmConvList final : public QMainWindow, private ShellView, private SettingsHost {
+class frmConvList : public QMainWindow, private ShellView, private SettingsHost {
   Q_OBJECT
 
  public:
@@ -118,9 +119,9 @@ class frmConvList final : public QMainWindow, private ShellView, private Setting
   ConversationTreeModel treeModel_;
 
   QHash<QString, QAction*> commands_;
-  QMenu mnuConPopup_;
-  QMenu mnuEventPopup_;
-  QMenu mnuFlagPopup_;
+  QMenu mnuConPopup_{this};
+  QMenu mnuEventPopup_{this};
+  QMenu mnuFlagPopup_{this};
   QToolBar tlbCon_;
   QLabel pnlFind_;
   QComboBox cboFind_;
@@ -129,6 +130,7 @@ class frmConvList final : public QMainWindow, private ShellView, private Setting
   QWidget picTitles_;
   QLabel lblConversations_;
   QLabel lblEvents_;
+  NameDelegate nameDelegate_;
   ConversationTreeView tvCons_;
   MultiColumnList lstEvents_;
   QWidget imgSplitter_;

@@ -54,6 +54,7 @@ void frmConvList::BuildPanes() {
   tvCons_.setObjectName(QStringLiteral("tvCons"));
   tvCons_.setAccessibleName(lblConversations_.text().trimmed());
   tvCons_.setIconSize({image, image});
+  tvCons_.setItemDelegate(&nameDelegate_);
   treeModel_.SetImages({Icon("actor"), Icon("con"), Icon("flagtrue"), Icon("flagfalse")});
   lblConversations_.setBuddy(&tvCons_);
 

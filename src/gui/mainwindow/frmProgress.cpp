@@ -69,6 +69,8 @@ void frmProgress::SetBarCount(int count) {
   if (count != 1 && count != 2) return;
   lblText2.setVisible(count == 2);
   barProgress2.setVisible(count == 2);
+  // Otherwise the height that two bars need would still be the least.
+  layout()->activate();
   resize(PixelsFromTwips(kWidth), PixelsFromTwips(count == 2 ? kTwoBarsHeight : kOneBarHeight));
 }
 
@@ -103,7 +105,10 @@ void frmProgress::Step2(const std::string& text, int value) {
 
 void frmProgress::End() {
   setUpdatesEnabled(true);
+  const bool wasActive = isActiveWindow();
   hide();
+  // Where the platform made the dialog active all the same, the keys go back to the window.
+  if (wasActive && parentWidget() != nullptr) parentWidget()->window()->activateWindow();
 }
 
 void frmProgress::PaintIfDue() {

@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "mainwindow/Icons.h"
 #include "platform/FormControls.h"
 #include "settings/ConversationDefaults.h"
 
@@ -16,7 +17,7 @@ constexpr QSize kLogoSize(480, 270);
 
 frmSplash::frmSplash(QWidget* parent)
     : QWidget(parent, Qt::SplashScreen | Qt::FramelessWindowHint),
-      imgLogo(QStringLiteral(":/icons/logo.svg"), kLogoSize, this) {
+      imgLogo(IconPath(QStringLiteral("logo")), kLogoSize, this) {
   const QString title = QString::fromLatin1(kProgramTitle);
   NameControl(*this, "frmSplash", title);
   setWindowTitle(title);

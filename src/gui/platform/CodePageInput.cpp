@@ -1,6 +1,8 @@
 #include "platform/CodePageInput.h"
 
 #include <QComboBox>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTextBlock>
@@ -18,15 +20,13 @@ struct Found {
   qsizetype length = 0;
 };
 
-bool InCodePage(char32_t character) {
-  return character == U'?' || CodePageByte(character) != '?';
-}
+bool InCodePage(char32_t character) { return character == U'?' || CodePageByte(character) != '?'; }
 
 /// The first character outside the code page at or behind `from`.
 std::optional<Found> FindOutside(const QString& text, qsizetype from) {
   for (qsizetype i = from; i < text.size(); ++i) {
-    const bool isPair = i + 1 < text.size() && text[i].isHighSurrogate() &&
-                        text[i + 1].isLowSurrogate();
+    const bool isPair =
+        i + 1 < text.size() && text[i].isHighSurrogate() && text[i + 1].isLowSurrogate();
     if (isPair) return Found{i, 2};
     if (!InCodePage(text[i].unicode())) return Found{i, 1};
   }
@@ -59,6 +59,38 @@ void ReplaceInDocument(QTextDocument& document) {
   }
 }
 
+QString Mended(QString text) {
+  int ignored = 0;
+  ReplaceOutsideCodePage(text, ignored);
+  return text;
+}
+
+/// Mends what comes from the keyboard before it is in the document: a single letter is a step of
+/// undo for itself, to which no replacement could be joined.
+class InputMender final : public QObject {
+ public:
+  explicit InputMender(QPlainTextEdit& edit) : QObject(&edit), edit_(edit) {}
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::KeyPress && !edit_.isReadOnly()) {
+      const QString typed = static_cast<QKeyEvent*>(event)->text();
+      if (FindOutside(typed, 0)) {
+        edit_.insertPlainText(Mended(typed));
+        return true;
+      }
+    }
+    if (event->type() == QEvent::InputMethod) {
+      auto* input = static_cast<QInputMethodEvent*>(event);
+      input->setCommitString(Mended(input->commitString()), input->replacementStart(),
+                             input->replacementLength());
+    }
+    return QObject::eventFilter(watched, event);
+  }
+
+ private:
+  QPlainTextEdit& edit_;
+};
+
 }  // namespace
 
 void ReplaceOutsideCodePage(QString& text, int& position) {
@@ -82,10 +114,13 @@ void KeepToCodePage(QLineEdit& edit) { edit.setValidator(new CodePageValidator(&
 void KeepToCodePage(QComboBox& combo) { combo.setValidator(new CodePageValidator(&combo)); }
 
 void KeepToCodePage(QPlainTextEdit& edit) {
+  edit.installEventFilter(new InputMender(edit));
   QTextDocument* document = edit.document();
-  // The replacement is a change too, and by then there is nothing left to replace.
-  QObject::connect(document, &QTextDocument::contentsChanged, &edit,
-                   [document] { ReplaceInDocument(*document); });
+  // The replacement is a change too, and by then there is nothing left to replace. What undo brings
+  // back has been mended once and has to stay as it is, or undo would get no further.
+  QObject::connect(document, &QTextDocument::contentsChanged, &edit, [document] {
+    if (!document->isRedoAvailable()) ReplaceInDocument(*document);
+  });
 }
 
 }  // namespace parlate

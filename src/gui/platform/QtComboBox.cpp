@@ -42,6 +42,7 @@ void QtComboBox::Clear() {
   typed_.reset();
   {
     const QSignalBlocker silence(this);
+    const QSignalBlocker lineSilence(lineEdit());
     clear();
     clearEditText();
   }
@@ -49,9 +50,10 @@ void QtComboBox::Clear() {
 }
 
 void QtComboBox::AddItem(const std::string& text) {
-  const int row = IndexForNewRow(order_, ListCount(), text, [this](int index) -> const auto& {
-    return rows_[static_cast<std::size_t>(index)].text;
-  });
+  const int row = IndexForNewRow(
+      order_, ListCount(), text, [this](int index) -> const auto& {
+        return rows_[static_cast<std::size_t>(index)].text;
+      });
   rows_.insert(rows_.begin() + row, {text, 0});
   if (ListCount() > 1) {
     const std::optional<QString> typed = typed_;

@@ -17,8 +17,8 @@ class QtFileDialogs final : public FileDialogs {
   std::string ShowSave(const FileDialog& dialog) override;
 };
 
-/// "Caption|*.a;*.b|Caption|*.c" as the toolkit's name filters. Each begins with its caption, letter
-/// by letter, and ends with its patterns in brackets, which the dialog does not show.
+/// "Caption|*.a;*.b|Caption|*.c" as the toolkit's name filters. Each begins with its caption,
+/// letter by letter, and ends with its patterns in brackets, which the dialog does not show.
 [[nodiscard]] QStringList NameFilters(const std::string& filter);
 
 /// The extension of the first pattern that names one, without its point; "con" if there is none.

@@ -111,7 +111,7 @@ void MultiColumnList::RowsReset() {
 }
 
 void MultiColumnList::RowInserted(std::size_t index) {
-  if (FollowsRows()) tops_.Insert(index, MeasureRow(rows_.Row(index)));
+  if (!heightsDirty_) tops_.Insert(index, MeasureRow(rows_.Row(index)));
   ScheduleLayout();
   const auto row = static_cast<int>(index);
   emit rowInserted(row);
@@ -119,7 +119,7 @@ void MultiColumnList::RowInserted(std::size_t index) {
 }
 
 void MultiColumnList::RowRemoved(std::size_t index) {
-  if (FollowsRows()) tops_.Remove(index);
+  if (!heightsDirty_) tops_.Remove(index);
   ScheduleLayout();
   const auto row = static_cast<int>(index);
   emit rowRemoved(row);
@@ -127,7 +127,7 @@ void MultiColumnList::RowRemoved(std::size_t index) {
 }
 
 void MultiColumnList::RowTextChanged(std::size_t index) {
-  if (FollowsRows()) tops_.SetHeight(index, MeasureRow(rows_.Row(index)));
+  if (!heightsDirty_) tops_.SetHeight(index, MeasureRow(rows_.Row(index)));
   ScheduleLayout();
 }
 

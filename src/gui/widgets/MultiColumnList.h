@@ -126,7 +126,6 @@ class MultiColumnList : public QAbstractScrollArea, private ListRowsListener {
   void MeasureAllRows();
   [[nodiscard]] int MeasureRow(const ListRow& row);
   [[nodiscard]] bool HeightsAreRight() const;
-  [[nodiscard]] bool FollowsRows();
   void UpdateScrollBars();
   void SetVerticalRange(std::int64_t height);
   void ScrollTo(int row);

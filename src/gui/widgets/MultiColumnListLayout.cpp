@@ -55,12 +55,6 @@ void MultiColumnList::MeasureAllRows() {
   heightsDirty_ = false;
 }
 
-bool MultiColumnList::FollowsRows() {
-  // Once the heights missed a change they are of no use, even if the old width comes back.
-  if (!HeightsAreRight()) heightsDirty_ = true;
-  return !heightsDirty_;
-}
-
 void MultiColumnList::ScheduleLayout() {
   layoutDirty_ = true;
   ScheduleRepaint();

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <string>
 
 #include "general/Paths.h"
@@ -69,11 +70,25 @@ TEST(CreateDirectoryPath, DoesNotMakeALastElementWithoutASeparator) {
   EXPECT_FALSE(FolderExists(folder.File("a/b")));
 }
 
+/// Makes a folder the current one for as long as the scope lives.
+class CurrentFolder {
+ public:
+  explicit CurrentFolder(const std::string& path) { std::filesystem::current_path(path); }
+  ~CurrentFolder() { std::filesystem::current_path(before_); }
+  CurrentFolder(const CurrentFolder&) = delete;
+  CurrentFolder& operator=(const CurrentFolder&) = delete;
+
+ private:
+  std::filesystem::path before_ = std::filesystem::current_path();
+};
+
 TEST(CreateDirectoryPath, SkipsTheFirstElement) {
+  const TemporaryFolder folder;
+  const CurrentFolder current(folder.Path());
   // The first one is the root, so a relative path misses its own first folder.
-  EXPECT_TRUE(CreateDirectoryPath("parlate-folder-that-is-not-there/"));
-  EXPECT_FALSE(FolderExists("parlate-folder-that-is-not-there"));
-  EXPECT_FALSE(CreateDirectoryPath("parlate-folder-that-is-not-there/below/"));
+  EXPECT_TRUE(CreateDirectoryPath("first/"));
+  EXPECT_FALSE(FolderExists("first"));
+  EXPECT_FALSE(CreateDirectoryPath("first/second/"));
   EXPECT_TRUE(CreateDirectoryPath("/"));
   EXPECT_TRUE(CreateDirectoryPath(""));
   EXPECT_TRUE(CreateDirectoryPath("no-separator"));

@@ -100,7 +100,9 @@ TEST(LabelCollection, AgreesWithAPlainListOverThousandsOfRandomOperations) {
     }
     const std::string sought = randomLabel();
     ASSERT_EQ(labels.Contains(sought), model.Find(sought) != model.names.end()) << sought;
-    if (step % 100 == 0) ASSERT_EQ(NamesOf(labels), model.names);
+    if (step % 100 == 0) {
+      ASSERT_EQ(NamesOf(labels), model.names);
+    }
   }
   EXPECT_EQ(NamesOf(labels), model.names);
 }

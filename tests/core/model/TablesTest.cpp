@@ -139,7 +139,7 @@ TEST_F(Tables, LoadInTheOrderOfTheFileWhichIsNotThatOfTheCodes) {
   const TableFields tables = testing_support::SampleTables();
   const std::string bytes = FileBytes(28).Tables(tables).Bytes();
   // Three rows of actors, two of flags, one of skills, two of objects, and four counts.
-  EXPECT_EQ(bytes.substr(0, 4), std::string("\x66\0\0\0", 4));
+  EXPECT_EQ(bytes.substr(0, 4), std::string("\x75\0\0\0", 4));
   Load(bytes);
   EXPECT_EQ(RowsOf(kActorTable), tables.actors);
   EXPECT_EQ(RowsOf(kFlagTable), tables.flags);

@@ -52,6 +52,29 @@ TEST_F(MultiColumnListTest, HeightsFollowTheFont) {
             list_.SingleLineHeight() + QFontMetrics(font, Area()).lineSpacing() + 5);
 }
 
+TEST_F(MultiColumnListTest, ATextIsMeasuredAnewWhenOnlyTheLettersSpread) {
+  const std::string word(10, 'm');
+  rows_.AddItem({"text", word + " " + word, -1, -1});
+  const int spacing = list_.fontMetrics().lineSpacing();
+  ASSERT_EQ(list_.RowRect(0).height(), list_.SingleLineHeight() + spacing + 5);
+  QFont font = list_.font();
+  // Ten letters spread by a twentieth of the width each: one word fits a line, two do not.
+  font.setLetterSpacing(QFont::AbsoluteSpacing, Area()->width() / 20.0);
+  list_.setFont(font);
+  ASSERT_EQ(list_.fontMetrics().lineSpacing(), spacing);
+  EXPECT_EQ(list_.RowRect(0).height(), list_.SingleLineHeight() + 2 * spacing + 5);
+}
+
+TEST_F(MultiColumnListTest, AChangeIsNotMissedBetweenTwoWidths) {
+  AddRows(3);
+  ASSERT_EQ(list_.RowRect(2).top(), 2 * list_.SingleLineHeight());
+  list_.resize(3 * kSize.width(), kSize.height());
+  rows_.SetSubText(0, "under it");
+  list_.resize(kSize);
+  EXPECT_EQ(list_.RowRect(2).top(),
+            2 * list_.SingleLineHeight() + list_.fontMetrics().lineSpacing() + 5);
+}
+
 TEST_F(MultiColumnListTest, ChangesOneByOneGiveTheSameHeightsAsAllAtOnce) {
   const std::string word = WideWord();
   AddRows(6);

@@ -49,10 +49,9 @@ void EventItem::LoadEvent(Conversation& conversation, RecordReader& in) {
   key = in.file.ReadInt32();
   const std::uint64_t typeOffset = in.file.Offset();
   eventType = RemapEventType(in.file.ReadInt32(), in.version);
-  eventLabel = in.file.ReadFileString();
+  in.file.ReadFileString(eventLabel);
   conversation.AddLabel(eventLabel);
-  CreateEventObject(eventType);
-  EventObject* object = eventObject();
+  EventObject* object = CreateEventObject(eventType);
   if (object == nullptr) {
     RuntimeError error(RuntimeError::kObjectVariableNotSet,
                        "there is no event type " + std::to_string(eventType));
@@ -78,8 +77,8 @@ void EventSpeech::SaveEvent(BinaryWriter& file) const {
 void EventSpeech::LoadEvent(RecordReader& in) {
   ActorSpeakerID = ReadActorRef(in);
   ActorSpeakingToID = ReadActorRef(in);
-  speech = in.file.ReadFileString();
-  audioFile = in.file.ReadFileString();
+  in.file.ReadFileString(speech);
+  in.file.ReadFileString(audioFile);
   bContinued = in.file.ReadFileBool();
   bBold = in.file.ReadFileBool();
   speechFont = in.file.ReadInt32();
@@ -107,15 +106,15 @@ void ChoiceItem::Load(RecordReader& in) {
   constexpr std::int32_t kFirstWithAudio = 9;
   constexpr std::int32_t kFirstWithFlags = 14;
   ID = in.file.ReadInt32();
-  text = in.file.ReadFileString();
+  in.file.ReadFileString(text);
   bDisplayAsSpeech = in.file.ReadFileBool();
   skillID = in.file.ReadInt32();
   if (skillID > -1) {
     in.file.ReadText();
     skillLevel = in.file.ReadInt32();
   }
-  label = in.file.ReadFileString();
-  if (in.version >= kFirstWithAudio) audioFile = in.file.ReadFileString();
+  in.file.ReadFileString(label);
+  if (in.version >= kFirstWithAudio) in.file.ReadFileString(audioFile);
   if (in.version >= kFirstWithFlags) LoadFlagRefs(in, flagRefs);
 }
 
@@ -160,7 +159,7 @@ void EventCheckFlag::SaveEvent(BinaryWriter& file) const {
 
 void EventCheckFlag::LoadEvent(RecordReader& in) {
   LoadFlagRefs(in, flagRefs);
-  failLabel = in.file.ReadFileString();
+  in.file.ReadFileString(failLabel);
 }
 
 // 4: i32 objectID, str object name, str failLabel. The name is looked up for -1 as well.
@@ -172,7 +171,7 @@ void EventCheckObject::SaveEvent(BinaryWriter& file) const {
 
 void EventCheckObject::LoadEvent(RecordReader& in) {
   objectID = ReadNamedRow(in.file);
-  failLabel = in.file.ReadFileString();
+  in.file.ReadFileString(failLabel);
 }
 
 // 5: i32 objectID, str object name, i32 transferCount (from version 27; else 1),
@@ -192,7 +191,7 @@ void EventTransferObject::LoadEvent(RecordReader& in) {
   transferCount = in.version >= kFirstWithCount ? in.file.ReadInt32() : 1;
   fromPawnID = ReadActorRef(in);
   toPawnID = ReadActorRef(in);
-  failLabel = in.file.ReadFileString();
+  in.file.ReadFileString(failLabel);
 }
 
 // 6: i32 cameraType, i32 cameraPosition, i32 cameraTransition; for type 1 three i32 of rotation and
@@ -248,7 +247,7 @@ void EventAnimation::SaveEvent(BinaryWriter& file) const {
 
 void EventAnimation::LoadEvent(RecordReader& in) {
   PawnID = ReadActorRef(in);
-  SeqName = in.file.ReadFileString();
+  in.file.ReadFileString(SeqName);
   playMode = in.file.ReadInt32();
   playLength = in.file.ReadInt32();
   bFinishAnim = in.file.ReadFileBool();
@@ -268,7 +267,7 @@ void EventJump::SaveEvent(BinaryWriter& file) const {
 }
 
 void EventJump::LoadEvent(RecordReader& in) {
-  label = in.file.ReadFileString();
+  in.file.ReadFileString(label);
   conID = in.file.ReadInt32();
 }
 
@@ -302,7 +301,7 @@ void EventRandom::LoadEvent(RecordReader& in) {
 
 void EventTrigger::SaveEvent(BinaryWriter& file) const { file.WriteFileString(triggerTag); }
 
-void EventTrigger::LoadEvent(RecordReader& in) { triggerTag = in.file.ReadFileString(); }
+void EventTrigger::LoadEvent(RecordReader& in) { in.file.ReadFileString(triggerTag); }
 
 // 12: str goalName, bool bGoalCompleted (from version 20; else false), and only if it is false
 //     str goalText, bool bPrimaryGoal.
@@ -317,10 +316,10 @@ void EventAddGoal::SaveEvent(BinaryWriter& file) const {
 
 void EventAddGoal::LoadEvent(RecordReader& in) {
   constexpr std::int32_t kFirstWithCompleted = 20;
-  goalName = in.file.ReadFileString();
+  in.file.ReadFileString(goalName);
   bGoalCompleted = in.version >= kFirstWithCompleted && in.file.ReadFileBool();
   if (bGoalCompleted) return;
-  goalText = in.file.ReadFileString();
+  in.file.ReadFileString(goalText);
   bPrimaryGoal = in.file.ReadFileBool();
 }
 
@@ -328,7 +327,7 @@ void EventAddGoal::LoadEvent(RecordReader& in) {
 
 void EventAddNote::SaveEvent(BinaryWriter& file) const { file.WriteFileString(noteText); }
 
-void EventAddNote::LoadEvent(RecordReader& in) { noteText = in.file.ReadFileString(); }
+void EventAddNote::LoadEvent(RecordReader& in) { in.file.ReadFileString(noteText); }
 
 // 14: i32 pointsToAdd, str awardMessage (from version 27; else empty).
 
@@ -340,7 +339,7 @@ void EventAddSkillPoints::SaveEvent(BinaryWriter& file) const {
 void EventAddSkillPoints::LoadEvent(RecordReader& in) {
   constexpr std::int32_t kFirstWithMessage = 27;
   pointsToAdd = in.file.ReadInt32();
-  if (in.version >= kFirstWithMessage) awardMessage = in.file.ReadFileString();
+  if (in.version >= kFirstWithMessage) in.file.ReadFileString(awardMessage);
 }
 
 // 15: i32 creditsToAdd.
@@ -362,14 +361,14 @@ void EventCheckPersona::LoadEvent(RecordReader& in) {
   personaType = in.file.ReadInt32();
   condition = in.file.ReadInt32();
   value = in.file.ReadInt32();
-  jumpLabel = in.file.ReadFileString();
+  in.file.ReadFileString(jumpLabel);
 }
 
 // 17: str commentText.
 
 void EventComment::SaveEvent(BinaryWriter& file) const { file.WriteFileString(commentText); }
 
-void EventComment::LoadEvent(RecordReader& in) { commentText = in.file.ReadFileString(); }
+void EventComment::LoadEvent(RecordReader& in) { in.file.ReadFileString(commentText); }
 
 // 18: no payload.
 

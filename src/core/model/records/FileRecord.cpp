@@ -69,12 +69,12 @@ void ConversationFile::SaveHeader(BinaryWriter& file) const {
 
 void ConversationFile::LoadHeader(RecordReader& in) {
   CreationDate = in.file.ReadDouble();
-  CreatedBy = in.file.ReadFileString();
+  in.file.ReadFileString(CreatedBy);
   LastUpdated = in.file.ReadDouble();
-  LastUpdatedBy = in.file.ReadFileString();
+  in.file.ReadFileString(LastUpdatedBy);
   const bool hasPackage = in.version >= kFirstWithPackageAndMissions;
   AudioPackage = hasPackage ? in.file.ReadFileString() : "Audio01";
-  notes = in.file.ReadFileString();
+  in.file.ReadFileString(notes);
   LoadMissions(in);
 }
 

@@ -34,7 +34,7 @@ void TableItem::Save(BinaryWriter& file) const {
 
 void TableItem::Load(BinaryReader& file) {
   ID = file.ReadInt32();
-  Name = file.ReadFileString();
+  file.ReadFileString(Name);
 }
 
 std::int16_t TableItem::GetSize() const {

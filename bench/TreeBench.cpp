@@ -1,0 +1,170 @@
+// Times the tree of conversations against a QTreeWidget with the same nodes, filled as one would
+// fill it: items made first, then put in and sorted. Both are filled, expanded, laid out and
+// painted once. With --check a missed target ends the program with 1.
+
+#include <QApplication>
+#include <QIcon>
+#include <QPixmap>
+#include <QString>
+#include <QTreeWidget>
+#include <cstddef>
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include "bench/Generator.h"
+#include "bench/Measure.h"
+#include "shell/ConversationTree.h"
+#include "widgets/CodePageText.h"
+#include "widgets/ConversationTreeModel.h"
+#include "widgets/ConversationTreeView.h"
+
+namespace {
+
+using parlate::ConversationTree;
+using parlate::ConversationTreeModel;
+using parlate::ConversationTreeView;
+using parlate::TreeNode;
+using parlate::bench::Median;
+using parlate::bench::Milliseconds;
+
+constexpr int kConversations = 32767;
+constexpr int kActors = 40;
+constexpr int kRounds = 7;
+constexpr double kTarget = 0.2;
+constexpr QSize kSize(300, 600);
+
+struct Entry {
+  int actor = 0;
+  std::string name;
+  QString shownName;  ///< The yardstick is not charged for converting.
+};
+
+/// Conversations in no order, owned by turns.
+std::vector<Entry> MakeEntries() {
+  std::vector<Entry> entries(kConversations);
+  for (std::size_t i = 0; i < entries.size(); ++i) {
+    constexpr std::size_t kStride = 12343;  // has no factor in common with the count
+    const std::size_t number = i * kStride % entries.size();
+    entries[i].actor = static_cast<int>(number % kActors);
+    entries[i].name = parlate::bench::ConversationName(static_cast<int>(number));
+    entries[i].shownName = parlate::ToQString(entries[i].name);
+  }
+  return entries;
+}
+
+std::string ActorName(int actor) { return "Actor" + std::to_string(actor); }
+
+void Finish(QAbstractScrollArea& area) {
+  QCoreApplication::processEvents();
+  area.viewport()->repaint();
+}
+
+void FillNodes(ConversationTree& tree, const std::vector<Entry>& entries) {
+  for (std::size_t i = 0; i < entries.size(); ++i) {
+    const Entry& entry = entries[i];
+    TreeNode* actor = tree.FindActor(entry.actor);
+    if (actor == nullptr) {
+      actor = &tree.AddActor(entry.actor, ActorName(entry.actor));
+      tree.SetExpanded(*actor, true);
+    }
+    tree.AddConversation(*actor, static_cast<int>(i), entry.name);
+  }
+}
+
+void FillWidget(QTreeWidget& widget, const std::vector<Entry>& entries, const QIcon& icon) {
+  QList<QTreeWidgetItem*> actors;  // in the order of their first conversation
+  std::vector<QTreeWidgetItem*> actorOf(kActors);
+  std::vector<QList<QTreeWidgetItem*>> children(kActors);
+  for (std::size_t i = 0; i < entries.size(); ++i) {
+    const auto owner = static_cast<std::size_t>(entries[i].actor);
+    if (actorOf[owner] == nullptr) {
+      actorOf[owner] = new QTreeWidgetItem({parlate::ToQString(ActorName(entries[i].actor))});
+      actorOf[owner]->setIcon(0, icon);
+      actors.append(actorOf[owner]);
+    }
+    auto* item = new QTreeWidgetItem({entries[i].shownName});
+    item->setIcon(0, icon);
+    item->setData(0, Qt::UserRole, static_cast<int>(i));
+    children[owner].append(item);
+  }
+  for (std::size_t owner = 0; owner < actorOf.size(); ++owner) {
+    actorOf[owner]->addChildren(children[owner]);
+    actorOf[owner]->sortChildren(0, Qt::AscendingOrder);
+  }
+  widget.addTopLevelItems(actors);
+  widget.expandAll();
+}
+
+/// A time counts only if all nodes have got their place.
+bool ShowsAll(const QTreeView& view) {
+  const QModelIndex root;
+  const QAbstractItemModel& model = *view.model();
+  int nodes = model.rowCount(root);
+  for (int row = 0; row < model.rowCount(root); ++row) {
+    const QModelIndex actor = model.index(row, 0, root);
+    if (!view.isExpanded(actor)) return false;
+    nodes += model.rowCount(actor);
+  }
+  return nodes == kConversations + kActors;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QApplication app(argc, argv);
+  const bool checks = QApplication::arguments().contains(QStringLiteral("--check"));
+
+  const std::vector<Entry> entries = MakeEntries();
+  QPixmap picture(16, 16);
+  picture.fill(Qt::darkGreen);
+  const QIcon icon(picture);
+
+  ConversationTree tree;
+  ConversationTreeModel model(tree);
+  model.SetImages({icon, icon, icon, icon});
+  ConversationTreeView view(model);
+  QTreeWidget widget;
+  widget.setHeaderHidden(true);
+  widget.setUniformRowHeights(true);
+  for (QTreeView* each : {static_cast<QTreeView*>(&view), static_cast<QTreeView*>(&widget)}) {
+    each->resize(kSize);
+    each->show();
+    Finish(*each);
+  }
+
+  std::vector<double> ours;
+  std::vector<double> nodesAlone;
+  std::vector<double> yardstick;
+  bool shown = true;
+  for (int round = 0; round < kRounds; ++round) {
+    tree.Clear();
+    widget.clear();
+    Finish(view);
+    Finish(widget);
+    double filled = 0;
+    ours.push_back(Milliseconds([&] {
+      tree.BeginBulk();
+      filled = Milliseconds([&] { FillNodes(tree, entries); });
+      tree.EndBulk();
+      Finish(view);
+    }));
+    nodesAlone.push_back(filled);
+    yardstick.push_back(Milliseconds([&] {
+      FillWidget(widget, entries, icon);
+      Finish(widget);
+    }));
+    shown = shown && ShowsAll(view) && ShowsAll(widget);
+  }
+  if (!shown) {
+    std::fprintf(stderr, "a tree does not show its nodes\n");
+    return 2;
+  }
+  const double ratio = Median(ours) / Median(yardstick);
+  std::printf("%-34s %10s %14s %8s %8s\n", "", "tree ms", "QTreeWidget ms", "ratio", "at most");
+  std::printf("%-34s %10.2f %14.2f %8.3f %8.2f%s\n", "fill, expand, lay out and paint",
+              Median(ours), Median(yardstick), ratio, kTarget, ratio <= kTarget ? "" : "  MISSED");
+  std::printf("(making the nodes takes %.2f ms of it)\n", Median(nodesAlone));
+  return checks && ratio > kTarget ? 1 : 0;
+}

@@ -1,0 +1,70 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "persistence/RecentFiles.h"
+
+namespace parlate {
+namespace {
+
+using testing::ElementsAre;
+
+class RecentFiles : public testing::Test {
+ protected:
+  RecentFiles() {
+    for (const char* path : {"/d.con", "/c.con", "/b.con", "/a.con"}) Add(path);
+  }
+  void Add(const std::string& path) { AddRecentFile(defaults_, path); }
+  [[nodiscard]] std::vector<std::string> Files() const {
+    std::vector<std::string> files;
+    for (int i = 0; i < 4; ++i) files.push_back(defaults_.LastFiles(i));
+    return files;
+  }
+
+  ConversationDefaults defaults_;
+};
+
+TEST_F(RecentFiles, StandNewestFirst) {
+  EXPECT_THAT(Files(), ElementsAre("/a.con", "/b.con", "/c.con", "/d.con"));
+}
+
+TEST_F(RecentFiles, DropTheOldestForAFifth) {
+  Add("/e.con");
+  EXPECT_THAT(Files(), ElementsAre("/e.con", "/a.con", "/b.con", "/c.con"));
+}
+
+TEST_F(RecentFiles, BringAnOldOneToTheFrontAndCloseItsGap) {
+  Add("/c.con");
+  EXPECT_THAT(Files(), ElementsAre("/c.con", "/a.con", "/b.con", "/d.con"));
+  Add("/d.con");
+  EXPECT_THAT(Files(), ElementsAre("/d.con", "/c.con", "/a.con", "/b.con"));
+  Add("/d.con");
+  EXPECT_THAT(Files(), ElementsAre("/d.con", "/c.con", "/a.con", "/b.con"));
+}
+
+TEST_F(RecentFiles, CompareWithoutRegardToCaseAndTakeTheNewSpelling) {
+  Add("/B.CON");
+  EXPECT_THAT(Files(), ElementsAre("/B.CON", "/a.con", "/c.con", "/d.con"));
+}
+
+TEST_F(RecentFiles, FoldTheCaseOfAccentedLettersToo) {
+  Add("/Caf\xC3\x89.con");
+  Add("/caf\xC3\xA9.con");
+  EXPECT_THAT(Files(), ElementsAre("/caf\xC3\xA9.con", "/a.con", "/b.con", "/c.con"));
+}
+
+TEST_F(RecentFiles, IgnoreAnEmptyPath) {
+  Add("");
+  EXPECT_THAT(Files(), ElementsAre("/a.con", "/b.con", "/c.con", "/d.con"));
+}
+
+TEST_F(RecentFiles, CloseAGapThatWasLeftInTheMiddle) {
+  defaults_.SetLastFiles(1, "");
+  Add("/e.con");
+  EXPECT_THAT(Files(), ElementsAre("/e.con", "/a.con", "", "/c.con"));
+}
+
+}  // namespace
+}  // namespace parlate

@@ -1,0 +1,55 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "shell/CommandLine.h"
+
+namespace parlate {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+TEST(CommandLine, IsOnePathTakenWhole) {
+  EXPECT_EQ(PathOfCommandLine("/cons/a b.con"), "/cons/a b.con");
+  EXPECT_EQ(PathOfCommandLine(" /cons/a.con "), " /cons/a.con ");
+  EXPECT_EQ(PathOfCommandLine("-h"), "-h") << "there are no switches";
+  EXPECT_EQ(PathOfCommandLine(""), "");
+}
+
+TEST(CommandLine, LosesTheQuotesRoundAPath) {
+  EXPECT_EQ(PathOfCommandLine("\"/cons/a b.con\""), "/cons/a b.con");
+  EXPECT_EQ(PathOfCommandLine("\"\""), "");
+  EXPECT_EQ(PathOfCommandLine("\""), "");
+}
+
+TEST(CommandLine, LosesItsLastCharacterBehindAQuoteWhateverItIs) {
+  EXPECT_EQ(PathOfCommandLine("\"/cons/a.con"), "/cons/a.co");
+}
+
+TEST(CommandLine, KeepsAQuoteThatDoesNotStandFirst) {
+  EXPECT_EQ(PathOfCommandLine("a\"b\""), "a\"b\"");
+}
+
+TEST(CommandLine, MakesAPathAbsoluteAndLeavesAnEmptyOneEmpty) {
+  EXPECT_EQ(AbsolutePath(""), "");
+  EXPECT_EQ(AbsolutePath("/cons/a.con"), "/cons/a.con");
+  EXPECT_EQ(AbsolutePath("/cons/../b/./a.con"), "/b/a.con");
+  EXPECT_EQ(AbsolutePath("a b.con"), (std::filesystem::current_path() / "a b.con").string());
+}
+
+TEST(CommandLine, SplitsAtBlanksAndTabs) {
+  EXPECT_THAT(GetCommandLine("one  two\tthree "), ElementsAre("one", "two", "three"));
+  EXPECT_THAT(GetCommandLine(" \t "), IsEmpty());
+  EXPECT_THAT(GetCommandLine(""), IsEmpty());
+}
+
+TEST(CommandLine, SplitsIntoNoMoreThanWasAskedFor) {
+  EXPECT_THAT(GetCommandLine("a b c", 2), ElementsAre("a", "b"));
+  EXPECT_THAT(GetCommandLine("a b c", 0), IsEmpty());
+  EXPECT_EQ(GetCommandLine("1 2 3 4 5 6 7 8 9 10 11 12").size(), 10U);
+}
+
+}  // namespace
+}  // namespace parlate

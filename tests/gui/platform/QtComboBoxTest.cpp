@@ -1,0 +1,247 @@
+#include <gtest/gtest.h>
+
+#include <QAbstractItemView>
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTest>
+#include <QVBoxLayout>
+#include <array>
+#include <initializer_list>
+
+#include "model/TableCombos.h"
+#include "platform/QtComboBox.h"
+
+namespace parlate {
+namespace {
+
+class QtComboBoxTest : public ::testing::Test {
+ protected:
+  QtComboBoxTest() {
+    auto* layout = new QVBoxLayout(&window_);
+    layout->addWidget(&combo_);
+    layout->addWidget(&other_);
+    window_.show();
+    window_.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window_));
+    combo_.SetFocus();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return combo_.hasFocus(); }));
+  }
+
+  void Fill(std::initializer_list<const char*> names) {
+    std::int32_t id = 10;
+    for (const char* name : names) {
+      combo_.AddItem(name);
+      combo_.SetItemData(FindComboIndexByText(combo_, name), id++);
+    }
+  }
+
+  void Type(const char* text) { QTest::keyClicks(combo_.lineEdit(), text); }
+  QAbstractItemView& Popup() { return *combo_.completer()->popup(); }
+
+  QWidget window_;
+  QtComboBox combo_{&window_};
+  QLineEdit other_{&window_};
+};
+
+TEST_F(QtComboBoxTest, RowsStandAsTheyWereAdded) {
+  Fill({"Walter", "anna", "Bo"});
+  ASSERT_EQ(combo_.ListCount(), 3);
+  EXPECT_EQ(combo_.List(0), "Walter");
+  EXPECT_EQ(combo_.itemText(1), "anna");
+  EXPECT_EQ(combo_.ItemData(2), 12);
+  EXPECT_EQ(combo_.List(3), "");
+  EXPECT_EQ(combo_.List(-1), "");
+  EXPECT_EQ(combo_.ItemData(3), 0);
+}
+
+TEST_F(QtComboBoxTest, AddingTheFirstRowSelectsNothing) {
+  combo_.AddItem("Anna");
+  EXPECT_EQ(combo_.ListIndex(), -1);
+  EXPECT_EQ(combo_.Text(), "");
+}
+
+TEST_F(QtComboBoxTest, AddingRowsLeavesATypedText) {
+  Type("Anna");
+  Fill({"Anna", "Bo"});
+  EXPECT_EQ(combo_.Text(), "Anna");
+  EXPECT_EQ(combo_.ListIndex(), -1);
+}
+
+TEST_F(QtComboBoxTest, SelectingShowsTheTextAndMinusOneEmptiesIt) {
+  Fill({"Anna", "Bo"});
+  combo_.SetListIndex(1);
+  EXPECT_EQ(combo_.ListIndex(), 1);
+  EXPECT_EQ(combo_.Text(), "Bo");
+  combo_.SetListIndex(-1);
+  EXPECT_EQ(combo_.ListIndex(), -1);
+  EXPECT_EQ(combo_.Text(), "");
+  combo_.SetListIndex(7);
+  EXPECT_EQ(combo_.ListIndex(), -1);
+}
+
+TEST_F(QtComboBoxTest, ATypedTextIsNoRowEvenIfOneHasTheSameText) {
+  Fill({"Anna", "Bo"});
+  combo_.SetListIndex(1);
+  Type("x");
+  EXPECT_EQ(combo_.Text(), "Box");
+  EXPECT_EQ(combo_.ListIndex(), -1);
+  QTest::keyClick(combo_.lineEdit(), Qt::Key_Backspace);
+  EXPECT_EQ(combo_.Text(), "Bo");
+  EXPECT_EQ(combo_.ListIndex(), -1);
+  combo_.SetListIndex(1);
+  EXPECT_EQ(combo_.ListIndex(), 1);
+}
+
+TEST_F(QtComboBoxTest, ASetTextIsNoRowEither) {
+  Fill({"Anna", "Bo"});
+  combo_.SetListIndex(1);
+  combo_.SetText("Bo");
+  EXPECT_EQ(combo_.Text(), "Bo");
+  EXPECT_EQ(combo_.ListIndex(), -1);
+}
+
+TEST_F(QtComboBoxTest, SelectingTheSameRowAgainBringsItsTextBack) {
+  Fill({"Anna", "Bo"});
+  combo_.SetListIndex(1);
+  Type("x");
+  combo_.SetListIndex(1);
+  EXPECT_EQ(combo_.Text(), "Bo");
+  EXPECT_EQ(combo_.ListIndex(), 1);
+}
+
+TEST_F(QtComboBoxTest, LeavingTheBoxKeepsWhatWasTypedLetterByLetter) {
+  Fill({"Anna", "Bo"});
+  Type("anna");
+  other_.setFocus();
+  ASSERT_TRUE(QTest::qWaitFor([this] { return other_.hasFocus(); }));
+  EXPECT_EQ(combo_.Text(), "anna");
+  EXPECT_EQ(combo_.ListIndex(), -1);
+}
+
+TEST_F(QtComboBoxTest, ReturnKeepsWhatWasTypedAndAddsNoRow) {
+  Fill({"Anna", "Bo"});
+  Type("carl");
+  QTest::keyClick(combo_.lineEdit(), Qt::Key_Return);
+  EXPECT_EQ(combo_.Text(), "carl");
+  EXPECT_EQ(combo_.ListCount(), 2);
+}
+
+TEST_F(QtComboBoxTest, TypingOffersRowsWhateverTheirCaseAndChangesNothing) {
+  Fill({"Anna", "Andrew", "Bo"});
+  Type("an");
+  ASSERT_TRUE(QTest::qWaitFor([this] { return Popup().isVisible(); }));
+  EXPECT_EQ(combo_.completer()->completionCount(), 2);
+  EXPECT_EQ(combo_.Text(), "an");
+  Popup().hide();
+  EXPECT_EQ(combo_.Text(), "an");
+}
+
+TEST_F(QtComboBoxTest, ARowChosenFromTheOffersIsSelected) {
+  Fill({"Bo", "Anna"});
+  Type("an");
+  ASSERT_TRUE(QTest::qWaitFor([this] { return Popup().isVisible(); }));
+  QTest::keyClick(&Popup(), Qt::Key_Down);
+  QTest::keyClick(&Popup(), Qt::Key_Return);
+  EXPECT_EQ(combo_.Text(), "Anna");
+  EXPECT_EQ(combo_.ListIndex(), 1);
+}
+
+TEST_F(QtComboBoxTest, TheArrowKeysSelectRows) {
+  Fill({"Anna", "Bo"});
+  combo_.SetListIndex(0);
+  QTest::keyClick(combo_.lineEdit(), Qt::Key_Down);
+  EXPECT_EQ(combo_.ListIndex(), 1);
+  EXPECT_EQ(combo_.Text(), "Bo");
+}
+
+TEST_F(QtComboBoxTest, ClearDropsRowsAndText) {
+  Fill({"Anna", "Bo"});
+  combo_.SetListIndex(1);
+  combo_.Clear();
+  EXPECT_EQ(combo_.ListCount(), 0);
+  EXPECT_EQ(combo_.count(), 0);
+  EXPECT_EQ(combo_.ListIndex(), -1);
+  EXPECT_EQ(combo_.Text(), "");
+}
+
+TEST_F(QtComboBoxTest, EveryChangeIsToldOnceAndWithTheRightIndex) {
+  Fill({"Anna", "Bo"});
+  const QSignalSpy told(&combo_, &QtComboBox::choiceChanged);
+  int index = 99;
+  QObject::connect(&combo_, &QtComboBox::choiceChanged, &combo_,
+                   [this, &index] { index = combo_.ListIndex(); });
+  combo_.SetListIndex(1);
+  EXPECT_EQ(told.size(), 1);
+  EXPECT_EQ(index, 1);
+  combo_.SetListIndex(1);
+  EXPECT_EQ(told.size(), 1);
+  Type("x");
+  EXPECT_EQ(told.size(), 2);
+  EXPECT_EQ(index, -1);
+  combo_.SetText("Anna");
+  EXPECT_EQ(told.size(), 3);
+  EXPECT_EQ(index, -1);
+  combo_.Clear();
+  EXPECT_EQ(told.size(), 4);
+}
+
+TEST_F(QtComboBoxTest, SelectsAPartOfTheText) {
+  Type("Stranger");
+  combo_.SelectText(0, 8);
+  EXPECT_EQ(combo_.lineEdit()->selectedText(), "Stranger");
+}
+
+TEST_F(QtComboBoxTest, IsVisibleOnlyWhileItsPanelIs) {
+  EXPECT_TRUE(combo_.Visible());
+  window_.hide();
+  EXPECT_FALSE(combo_.Visible());
+}
+
+TEST_F(QtComboBoxTest, TextIsThatOfTheCodePage) {
+  combo_.AddItem("Zo\xEB");
+  EXPECT_EQ(combo_.itemText(0), QStringLiteral(u"Zo\u00EB"));
+  combo_.SetListIndex(0);
+  EXPECT_EQ(combo_.Text(), "Zo\xEB");
+}
+
+TEST(SortedQtComboBox, RowsStandByNameAndKeepTheirNumbers) {
+  QtComboBox combo(nullptr, RowOrder::ByName);
+  std::int32_t id = 10;
+  for (const char* name : {"walter", "Anna", "bo", "ANDREW", "Bo"}) {
+    combo.AddItem(name);
+    combo.SetItemData(FindComboIndexByText(combo, name), id++);
+  }
+  const std::array<const char*, 5> names{"ANDREW", "Anna", "bo", "Bo", "walter"};
+  const std::array<std::int32_t, 5> ids{13, 11, 12, 14, 10};
+  ASSERT_EQ(combo.ListCount(), 5);
+  for (int i = 0; i < 5; ++i) {
+    const auto place = static_cast<std::size_t>(i);
+    EXPECT_EQ(combo.List(i), names[place]);
+    EXPECT_EQ(combo.itemText(i), names[place]);
+    EXPECT_EQ(combo.ItemData(i), ids[place]);
+  }
+}
+
+TEST(SortedQtComboBox, TheSelectionStaysWithItsRow) {
+  QtComboBox combo(nullptr, RowOrder::ByName);
+  combo.AddItem("Bo");
+  combo.SetItemData(0, 7);
+  combo.SetListIndex(0);
+  combo.AddItem("Anna");
+  EXPECT_EQ(combo.ListIndex(), 1);
+  EXPECT_EQ(combo.Text(), "Bo");
+  EXPECT_EQ(GetComboItemID(combo), 7);
+}
+
+TEST(SortedQtComboBox, ATypedTextStaysWhenARowOfThatNameIsAdded) {
+  QtComboBox combo(nullptr, RowOrder::ByName);
+  combo.AddItem("Bo");
+  combo.SetListIndex(0);
+  QTest::keyClicks(combo.lineEdit(), "x");
+  combo.AddItem("Anna");
+  EXPECT_EQ(combo.Text(), "Box");
+  EXPECT_EQ(combo.ListIndex(), -1);
+}
+
+}  // namespace
+}  // namespace parlate
