@@ -68,10 +68,12 @@ void AddMissingFlags(const ConversationFile& file) {
 
 std::string RecoveryFileName(const std::string& conFileName, Date moment) {
   using namespace std::chrono;
-  constexpr double kSecondsOfDay = 86400.0;
-  const double day = std::floor(moment);
-  const auto ofDay = static_cast<int>(std::lround((moment - day) * kSecondsOfDay));
-  const year_month_day date(sys_days(1899y / December / 30) + days(static_cast<int>(day)));
+  constexpr std::int64_t kSecondsOfDay = 86400;
+  // Rounded as a whole, so that the last half second of a day belongs to the next.
+  const std::int64_t seconds = std::llround(moment * static_cast<double>(kSecondsOfDay));
+  const auto day = static_cast<int>(seconds / kSecondsOfDay);
+  const auto ofDay = static_cast<int>(seconds % kSecondsOfDay);
+  const year_month_day date(sys_days(1899y / December / 30) + days(day));
   std::array<char, 64> text{};
   std::snprintf(text.data(), text.size(), "-%04d%02u%02u-%02d%02d%02d",
                 static_cast<int>(date.year()), static_cast<unsigned>(date.month()),

@@ -213,7 +213,7 @@ void Shell::MakeBackup(const std::string& path) {
 
 Boolean Shell::CloseConFile() {
   if (!PromptSaveChanges()) return false;
-  if (!bReadOnly_) RemoveLock(conFileName);
+  if (!bReadOnly_ && !conFileName.empty()) RemoveLock(conFileName);
   conFileName.clear();
   SetSelectedCon(nullptr);
   conFile_.reset();

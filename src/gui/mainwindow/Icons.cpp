@@ -11,6 +11,13 @@ QString IconPath(const QString& name) {
   return QStringLiteral(":/icons/%1.svg").arg(name);
 }
 
-QIcon Icon(const QString& name) { return QIcon(IconPath(name)); }
+QIcon Icon(const QString& name) {
+  QIcon icon;
+  // The same picture on a selected row: the style would tint it beyond recognition.
+  for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Selected}) {
+    icon.addFile(IconPath(name), QSize(), mode);
+  }
+  return icon;
+}
 
 }  // namespace parlate
