@@ -15,9 +15,8 @@ bool Bool(Boolean value) { return value; }
 Json FlagsToJson(const FlagList& flagRefs) {
   Json list = Json::array();
   for (const FlagRef& flag : flagRefs) {
-    list.push_back({{"flagID", flag.flagID},
-                    {"bValue", Bool(flag.bValue)},
-                    {"expiration", flag.expiration}});
+    list.push_back(
+        {{"flagID", flag.flagID}, {"bValue", Bool(flag.bValue)}, {"expiration", flag.expiration}});
   }
   return list;
 }

@@ -44,10 +44,9 @@ std::shared_ptr<Conversation> Session::GetConFromID(std::int32_t conID) const {
 }
 
 std::int32_t Session::GetConIDFromName(std::int32_t conOwner, const std::string& conName) const {
-  const auto found =
-      std::find_if(file.Conversations.begin(), file.Conversations.end(), [&](const auto& con) {
-        return con.NPCID == conOwner && EqualNoCase(con.conName, conName);
-      });
+  const auto found = std::find_if(
+      file.Conversations.begin(), file.Conversations.end(),
+      [&](const auto& con) { return con.NPCID == conOwner && EqualNoCase(con.conName, conName); });
   return found == file.Conversations.end() ? -1 : found->key;
 }
 

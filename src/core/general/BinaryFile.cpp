@@ -63,8 +63,7 @@ std::size_t MemorySource::Read(char* bytes, std::size_t size) {
   return count;
 }
 
-FileSink::FileSink(const std::string& path)
-    : descriptor_(OpenOrRaise(path, O_WRONLY | O_CREAT)) {}
+FileSink::FileSink(const std::string& path) : descriptor_(OpenOrRaise(path, O_WRONLY | O_CREAT)) {}
 
 FileSink::~FileSink() { ::close(descriptor_); }
 

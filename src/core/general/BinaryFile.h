@@ -92,9 +92,7 @@ class BinaryReader {
   /// Bytes consumed so far.
   [[nodiscard]] std::uint64_t Offset() const { return base_ + position_; }
   /// Bytes between here and the end.
-  [[nodiscard]] std::uint64_t Remaining() const {
-    return size_ > Offset() ? size_ - Offset() : 0;
-  }
+  [[nodiscard]] std::uint64_t Remaining() const { return size_ > Offset() ? size_ - Offset() : 0; }
 
   unsigned char ReadByte() { return static_cast<unsigned char>(*Take(1)); }
 
@@ -182,9 +180,7 @@ class BinaryWriter {
   BinaryWriter(const BinaryWriter&) = delete;
   BinaryWriter& operator=(const BinaryWriter&) = delete;
 
-  void WriteByte(unsigned char value) {
-    *Make(1) = static_cast<char>(value);
-  }
+  void WriteByte(unsigned char value) { *Make(1) = static_cast<char>(value); }
 
   void WriteInt32(std::int32_t value) {
     const std::uint32_t bits = ToLittleEndian(static_cast<std::uint32_t>(value));

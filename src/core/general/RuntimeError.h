@@ -30,13 +30,16 @@ class RuntimeError : public std::exception {
 
   /// The description is the classic text of the number.
   explicit RuntimeError(int number);
-  /// `detail` tells a reader of a log what exactly went wrong; the description stays the classic one.
+  /// `detail` tells a reader of a log what exactly went wrong; the description stays the classic
+  /// one.
   RuntimeError(int number, std::string detail);
 
   [[nodiscard]] int Number() const { return number_; }
   [[nodiscard]] const std::string& Description() const { return description_; }
   /// What went wrong in one line; the description when nothing more is known.
-  [[nodiscard]] const std::string& Detail() const { return detail_.empty() ? description_ : detail_; }
+  [[nodiscard]] const std::string& Detail() const {
+    return detail_.empty() ? description_ : detail_;
+  }
 
   /// Place in the file that was read, in bytes from its start.
   [[nodiscard]] std::optional<std::uint64_t> Offset() const { return offset_; }

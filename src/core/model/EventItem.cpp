@@ -114,8 +114,7 @@ std::string EventItem::BuildEventListString() const {
   const EventObject& object = Object();
   const std::int32_t actorID = object.GetActorID();
   const std::string actor = actorID == -1 ? "" : GetTableItemName(kActorTable, actorID);
-  return eventLabel + ";" + TypeName(eventType) + ";" + actor + ";" +
-         object.BuildEventListString();
+  return eventLabel + ";" + TypeName(eventType) + ";" + actor + ";" + object.BuildEventListString();
 }
 
 std::string EventItem::BuildEventListSubString() const {

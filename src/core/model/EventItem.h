@@ -24,11 +24,11 @@ class EventItem {
   std::string eventLabel;  ///< Jump label, empty for none.
 
  private:
-  using Payload = std::variant<std::monostate, EventSpeech, EventChoice, EventSetFlag,
-                               EventCheckFlag, EventCheckObject, EventTransferObject,
-                               EventMoveCamera, EventAnimation, EventTrade, EventJump, EventRandom,
-                               EventTrigger, EventAddGoal, EventAddNote, EventAddSkillPoints,
-                               EventAddCredits, EventCheckPersona, EventComment, EventEnd>;
+  using Payload =
+      std::variant<std::monostate, EventSpeech, EventChoice, EventSetFlag, EventCheckFlag,
+                   EventCheckObject, EventTransferObject, EventMoveCamera, EventAnimation,
+                   EventTrade, EventJump, EventRandom, EventTrigger, EventAddGoal, EventAddNote,
+                   EventAddSkillPoints, EventAddCredits, EventCheckPersona, EventComment, EventEnd>;
 
   // There are a million items in a large file: the numbers below stand in its unused tail.
   [[no_unique_address]] Payload payload_;
@@ -92,8 +92,7 @@ class EventItem {
   [[nodiscard]] std::string BuildEventListSubString() const;
   /// `searchEventType` -1 stands for any type.
   [[nodiscard]] Boolean FindString(std::string_view searchString, Boolean bWholeWord,
-                                   CompareMethod compareMethod,
-                                   std::int32_t searchEventType) const;
+                                   CompareMethod compareMethod, std::int32_t searchEventType) const;
   [[nodiscard]] Boolean AreLabelsValid(const Conversation& conversation) const;
   [[nodiscard]] bool IsTableItemReferenced(std::int32_t id, std::int32_t tableType) const;
   void ChangeTableLink(std::int32_t tableType, std::int32_t oldID, std::int32_t newID);

@@ -44,9 +44,9 @@ std::string GetTableName(std::int32_t tableType) {
 const std::string& GetTableItemName(std::int32_t tableType, std::int32_t id) {
   const TableItem* row = RequireTable(tableType).Find(id);
   if (row == nullptr) {
-    throw RuntimeError(RuntimeError::kInvalidProcedureCall, "the table " + GetTableName(tableType) +
-                                                                " has no row " +
-                                                                std::to_string(id));
+    throw RuntimeError(
+        RuntimeError::kInvalidProcedureCall,
+        "the table " + GetTableName(tableType) + " has no row " + std::to_string(id));
   }
   return row->Name;
 }

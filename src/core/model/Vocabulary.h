@@ -33,12 +33,25 @@ enum EventType : std::int32_t {
 inline constexpr std::int32_t kEventTypeCount = 19;
 
 /// The vocabulary arrays; an index is the code stored in an event.
-inline constexpr std::array<std::string_view, 19> eventTypeNames = {
-    "Speech",       "Choice",          "Set Flags",         "Check Flags",
-    "Check Object", "Transfer Object", "Move Camera",       "Play Animation",
-    "Buy/Sell/Trade", "Jump",          "Random Label",      "Trigger",
-    "Add/Complete Goal", "Add Note",   "Add Skill Points",  "Add Credits",
-    "Check Persona", "Comment",        "End"};
+inline constexpr std::array<std::string_view, 19> eventTypeNames = {"Speech",
+                                                                    "Choice",
+                                                                    "Set Flags",
+                                                                    "Check Flags",
+                                                                    "Check Object",
+                                                                    "Transfer Object",
+                                                                    "Move Camera",
+                                                                    "Play Animation",
+                                                                    "Buy/Sell/Trade",
+                                                                    "Jump",
+                                                                    "Random Label",
+                                                                    "Trigger",
+                                                                    "Add/Complete Goal",
+                                                                    "Add Note",
+                                                                    "Add Skill Points",
+                                                                    "Add Credits",
+                                                                    "Check Persona",
+                                                                    "Comment",
+                                                                    "End"};
 
 // Meant: level 1 is cut short to ten letters wherever it is shown.
 inline constexpr std::array<std::string_view, 4> skillLevelNames = {"Novice", "Intermedia",

@@ -19,13 +19,13 @@ struct TreeNode {
   enum class Kind { Root, Actor, Conversation, Flag };
 
   Kind kind = Kind::Root;
-  std::int32_t id = 0;   ///< Actor ID, conversation key, or collection key of the flag.
-  std::string text;      ///< Code-page text.
+  std::int32_t id = 0;     ///< Actor ID, conversation key, or collection key of the flag.
+  std::string text;        ///< Code-page text.
   bool imageTrue = false;  ///< Picture of a flag: "FlagTrue" or "FlagFalse".
   bool expanded = false;
-  bool sorted = false;     ///< Whether the children stand by name.
-  bool unsorted = false;   ///< Children came in during a bulk change and are sorted at its end.
-  std::size_t row = 0;     ///< Place among the siblings.
+  bool sorted = false;    ///< Whether the children stand by name.
+  bool unsorted = false;  ///< Children came in during a bulk change and are sorted at its end.
+  std::size_t row = 0;    ///< Place among the siblings.
   TreeNode* parent = nullptr;
   std::vector<std::unique_ptr<TreeNode>> children;
 

@@ -22,7 +22,7 @@ class ListRowsListener {
   virtual void RowsReset() = 0;
   virtual void RowInserted(std::size_t index) = 0;
   virtual void RowRemoved(std::size_t index) = 0;
-  virtual void RowTextChanged(std::size_t index) = 0;   ///< Text or sub-text: the height may change.
+  virtual void RowTextChanged(std::size_t index) = 0;  ///< Text or sub-text: the height may change.
   virtual void RowColorChanged(std::size_t index) = 0;  ///< Only a repaint is due.
   virtual void ListIndexChanged() = 0;
 };

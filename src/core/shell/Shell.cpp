@@ -87,12 +87,9 @@ std::vector<CommandState> Shell::ConPopupStates() const {
 std::vector<CommandState> Shell::EventPopupStates() const {
   const CommandPredicates now = Predicates();
   return {
-      {"mnuEventPopupAddEvents", now.conSelected},
-      {"mnuEventPopupInsertEvents", now.eventSelected},
-      {"mnuEventPopupEdit", now.eventSelected},
-      {"mnuEventPopupDelete", now.eventSelected},
-      {"mnuEventPopupCut", now.eventSelected},
-      {"mnuEventPopupCopy", now.eventSelected},
+      {"mnuEventPopupAddEvents", now.conSelected}, {"mnuEventPopupInsertEvents", now.eventSelected},
+      {"mnuEventPopupEdit", now.eventSelected},    {"mnuEventPopupDelete", now.eventSelected},
+      {"mnuEventPopupCut", now.eventSelected},     {"mnuEventPopupCopy", now.eventSelected},
       {"mnuEventPopupPaste", now.eventBuffered},
   };
 }

@@ -48,10 +48,10 @@ Shell::LockAnswer Shell::AskAboutLock(const std::string& holder) {
     if (answer == Answer::Yes) return LockAnswer::TakeOver;
     return answer == Answer::No ? LockAnswer::ReadOnly : LockAnswer::GiveUp;
   }
-  const Answer answer = Ask("File in use!",
-                            "This file is currently open by " + holder +
-                                ".\nDo you wish to open it in Read-Only mode?",
-                            MessageBox::Icon::Question, MessageBox::Buttons::YesNo);
+  const Answer answer = Ask(
+      "File in use!",
+      "This file is currently open by " + holder + ".\nDo you wish to open it in Read-Only mode?",
+      MessageBox::Icon::Question, MessageBox::Buttons::YesNo);
   return answer == Answer::Yes ? LockAnswer::ReadOnly : LockAnswer::GiveUp;
 }
 
@@ -83,8 +83,7 @@ FileDialog Shell::OpenDialogSetup() const {
 
 void Shell::OpenConFile(const std::string& path) {
   if (Defaults().Username.empty()) {
-    Tell("",
-         "The username field must contain a value before a conversation file can be loaded.",
+    Tell("", "The username field must contain a value before a conversation file can be loaded.",
          MessageBox::Icon::None);
     view_.ShowSettings();
     return;

@@ -16,8 +16,7 @@ constexpr int kFatalExitCode = 1;
 std::string ErrorText(const std::exception& error) {
   const auto* runtime = dynamic_cast<const RuntimeError*>(&error);
   if (runtime == nullptr) return std::string("Run-time error:\n\n") + error.what();
-  return "Run-time error '" + std::to_string(runtime->Number()) + "':\n\n" +
-         runtime->Description();
+  return "Run-time error '" + std::to_string(runtime->Number()) + "':\n\n" + runtime->Description();
 }
 
 }  // namespace

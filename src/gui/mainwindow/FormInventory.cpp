@@ -55,8 +55,11 @@ FormFactory Factory(const char* name) {
 
 std::vector<FormFactory> AllForms() {
   return {
-      Factory<LoadedConvList>("frmConvList"), Factory<frmSplash>("frmSplash"),        Factory<frmAbout>("frmAbout"),
-      Factory<frmProgress>("frmProgress"),    Factory<frmMissingLabels>("frmMissingLabels"),
+      Factory<LoadedConvList>("frmConvList"),
+      Factory<frmSplash>("frmSplash"),
+      Factory<frmAbout>("frmAbout"),
+      Factory<frmProgress>("frmProgress"),
+      Factory<frmMissingLabels>("frmMissingLabels"),
       Factory<LoadedSettings>("frmSettings"),
   };
 }

@@ -137,8 +137,8 @@ void frmConvList::CommandStatesChanged() {
 
 void frmConvList::ApplyStates(const std::vector<CommandState>& states) {
   for (const CommandState& state : states) {
-    const QString name = QString::fromLatin1(state.control.data(),
-                                             static_cast<qsizetype>(state.control.size()));
+    const QString name =
+        QString::fromLatin1(state.control.data(), static_cast<qsizetype>(state.control.size()));
     if (QAction* command = Command(name)) command->setEnabled(state.enabled);
     if (name == cboFind_.objectName()) cboFind_.setEnabled(state.enabled);
   }

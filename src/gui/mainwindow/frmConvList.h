@@ -52,7 +52,9 @@ class frmConvList : public QMainWindow, private ShellView, private SettingsHost 
   /// A command of a menu, a popup or the toolbar ("tlbCon/Save") by its name, or nothing.
   [[nodiscard]] QAction* Command(const QString& name) const { return commands_.value(name); }
   /// The three popups, which are no part of the menu bar.
-  [[nodiscard]] std::vector<QMenu*> Popups() { return {&mnuConPopup_, &mnuEventPopup_, &mnuFlagPopup_}; }
+  [[nodiscard]] std::vector<QMenu*> Popups() {
+    return {&mnuConPopup_, &mnuEventPopup_, &mnuFlagPopup_};
+  }
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -137,8 +139,8 @@ class frmConvList : public QMainWindow, private ShellView, private SettingsHost 
   QWidget picSplitter_;
   SvgPicture picLogo_;
 
-  int splitterLeft_ = 0;      ///< Twips.
-  int splitterBarLeft_ = 0;   ///< Twips; of the bar that shows during a drag.
+  int splitterLeft_ = 0;     ///< Twips.
+  int splitterBarLeft_ = 0;  ///< Twips; of the bar that shows during a drag.
   bool bMovingSplitter_ = false;
   bool sizingColumns_ = false;
   bool loaded_ = false;  ///< `InitMainWindow` is through, so the window may be laid out.

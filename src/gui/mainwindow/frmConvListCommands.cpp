@@ -79,11 +79,10 @@ void frmConvList::ConnectCommands() {
 }
 
 void frmConvList::ConnectTree() {
-  treeModel_.SetRenaming(
-      [this](const TreeNode& node) { return shell_.CanRename(node); },
-      [this](TreeNode& node, const std::string& name) {
-        return shell_.RenameConversation(node, name);
-      });
+  treeModel_.SetRenaming([this](const TreeNode& node) { return shell_.CanRename(node); },
+                         [this](TreeNode& node, const std::string& name) {
+                           return shell_.RenameConversation(node, name);
+                         });
   connect(&tvCons_, &ConversationTreeView::nodeClicked, this, [this](TreeNode* node) {
     shell_.NodeClick(*node);
     shell_.UpdateCommandStates();
@@ -121,10 +120,8 @@ void frmConvList::ConnectList() {
           &frmConvList::SelectionOfListChanged);
   connect(&lstEvents_, &MultiColumnList::clicked, this, [this] { shell_.ListClick(); });
   connect(&lstEvents_, &MultiColumnList::keyPressedInList, this, &frmConvList::ListKeyPressed);
-  connect(&lstEvents_, &MultiColumnList::contextMenuRequestedAt, this,
-          &frmConvList::ShowListPopup);
-  connect(&lstEvents_, &MultiColumnList::columnWidthChanged, this,
-          &frmConvList::SizeEventColumns);
+  connect(&lstEvents_, &MultiColumnList::contextMenuRequestedAt, this, &frmConvList::ShowListPopup);
+  connect(&lstEvents_, &MultiColumnList::columnWidthChanged, this, &frmConvList::SizeEventColumns);
 }
 
 void frmConvList::SelectionOfListChanged() { shell_.UpdateCommandStates(); }

@@ -15,8 +15,8 @@ namespace parlate {
 
 namespace {
 
-constexpr int kLeastPane = 1500;         // on either side of the splitter, after a drop
-constexpr int kLeastWhileDragging = 500; // meant: wider limits while the bar is under the mouse
+constexpr int kLeastPane = 1500;          // on either side of the splitter, after a drop
+constexpr int kLeastWhileDragging = 500;  // meant: wider limits while the bar is under the mouse
 constexpr int kLeastWindow = 3000;
 constexpr int kPaneLeft = 60;
 constexpr int kTitlesHeight = 300;
@@ -115,14 +115,15 @@ void frmConvList::SizeControls(int x) {
   lblEvents_.setGeometry(TwipsRect(listLeft, kTitleTop, listWidth - 20, kTitleHeight));
   SizeEventColumns();
   picLogo_.move((client_.width() - picLogo_.width()) / 2,
-                 (client_.height() - picLogo_.height()) / 2);
+                (client_.height() - picLogo_.height()) / 2);
   lstEvents_.viewport()->update();
 }
 
 void frmConvList::SizeEventColumns() {
   if (sizingColumns_) return;
   sizingColumns_ = true;
-  const int taken = lstEvents_.ColumnWidth(0) + lstEvents_.ColumnWidth(1) + lstEvents_.ColumnWidth(2);
+  const int taken =
+      lstEvents_.ColumnWidth(0) + lstEvents_.ColumnWidth(1) + lstEvents_.ColumnWidth(2);
   lstEvents_.SetColumnWidth(3, std::max(lstEvents_.width() - taken - kColumnReserve, 0));
   sizingColumns_ = false;
 }

@@ -17,12 +17,25 @@ namespace {
 constexpr int kPlayAnimationItem = 7;
 
 /// Captions of the items that add or insert an event, by type code.
-constexpr std::array<const char*, kEventTypeCount> kEventItemCaptions = {
-    "Speech",        "Choice",          "Set Flag",     "Check Flag",
-    "Check Object",  "Transfer Object", "Move Camera",  "Play Animation",
-    "Buy/Sell/Trade", "Jump",           "Random",       "Trigger",
-    "Add/Complete Goal", "Add Note",    "Add Skill Points", "Add Credits",
-    "Check Persona", "Comment",         "End"};
+constexpr std::array<const char*, kEventTypeCount> kEventItemCaptions = {"Speech",
+                                                                         "Choice",
+                                                                         "Set Flag",
+                                                                         "Check Flag",
+                                                                         "Check Object",
+                                                                         "Transfer Object",
+                                                                         "Move Camera",
+                                                                         "Play Animation",
+                                                                         "Buy/Sell/Trade",
+                                                                         "Jump",
+                                                                         "Random",
+                                                                         "Trigger",
+                                                                         "Add/Complete Goal",
+                                                                         "Add Note",
+                                                                         "Add Skill Points",
+                                                                         "Add Credits",
+                                                                         "Check Persona",
+                                                                         "Comment",
+                                                                         "End"};
 
 const QKeySequence kNone;
 
@@ -72,8 +85,8 @@ std::vector<MenuItem> ConversationItems() {
 
 std::vector<MenuItem> EventItems() {
   return {
-      {"mnuEventsEdit", "&Edit"},   {"mnuEventsDash0", "-"},       {"mnuEventsCut", "Cu&t"},
-      {"mnuEventsCopy", "&Copy"},   {"mnuEventsPaste", "&Paste"},  {"mnuEventsDash1", "-"},
+      {"mnuEventsEdit", "&Edit"},     {"mnuEventsDash0", "-"},      {"mnuEventsCut", "Cu&t"},
+      {"mnuEventsCopy", "&Copy"},     {"mnuEventsPaste", "&Paste"}, {"mnuEventsDash1", "-"},
       {"mnuEventsDelete", "&Delete"},
   };
 }
@@ -135,9 +148,12 @@ std::vector<MenuItem> EventPopupItems() {
 
 std::vector<MenuItem> FlagPopupItems() {
   return {
-      {"mnuFlagPopupAdd", "Add Flag"},       {"mnuFlagPopupRemove", "Remove Flag"},
-      {"mnuFlagPopupToggle", "Toggle Flag"}, {"mnuFlagPopupEdit", "Edit Flags"},
-      {"mnuDash11", "-"},                    {"mnuFlagPopupCollapse", "Collapse Flags"},
+      {"mnuFlagPopupAdd", "Add Flag"},
+      {"mnuFlagPopupRemove", "Remove Flag"},
+      {"mnuFlagPopupToggle", "Toggle Flag"},
+      {"mnuFlagPopupEdit", "Edit Flags"},
+      {"mnuDash11", "-"},
+      {"mnuFlagPopupCollapse", "Collapse Flags"},
   };
 }
 
@@ -145,8 +161,8 @@ std::vector<MenuItem> FlagPopupItems() {
 
 void frmConvList::BuildMenu(QMenu& menu, const std::vector<MenuItem>& items) {
   for (const MenuItem& item : items) {
-    QAction* action = item.caption == QLatin1String("-") ? menu.addSeparator()
-                                                         : menu.addAction(item.caption);
+    QAction* action =
+        item.caption == QLatin1String("-") ? menu.addSeparator() : menu.addAction(item.caption);
     action->setObjectName(item.name);
     action->setShortcut(item.shortcut);
     action->setCheckable(item.checkable);
@@ -208,8 +224,8 @@ void frmConvList::BuildToolbar() {
   tlbCon_.setAccessibleName(QStringLiteral("Toolbar"));
   tlbCon_.setMovable(false);
   tlbCon_.setContextMenuPolicy(Qt::PreventContextMenu);
-  const char* const buttons[] = {"New",  "Open", "Save", "Print", "-",          "Cut", "Copy",
-                                 "Paste", "-",   "Find", "-",     "Properties"};
+  const char* const buttons[] = {"New",  "Open",  "Save", "Print", "-", "Cut",
+                                 "Copy", "Paste", "-",    "Find",  "-", "Properties"};
   for (const char* button : buttons) {
     const QString key = QString::fromLatin1(button);
     if (key == QLatin1String("-")) {

@@ -69,7 +69,8 @@ class ConversationTreeModel final : public QAbstractItemModel, private Conversat
   Images images_;
   CanRename canRename_;
   Rename rename_;
-  bool renaming_ = false;  ///< A message about a name shows: losing the focus must not rename again.
+  bool renaming_ =
+      false;  ///< A message about a name shows: losing the focus must not rename again.
 };
 
 }  // namespace parlate

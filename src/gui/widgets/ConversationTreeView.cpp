@@ -50,8 +50,7 @@ void ConversationTreeView::SetNodeExpanded(const QModelIndex& index, bool expand
   setExpanded(index, expanded);
 }
 
-void ConversationTreeView::currentChanged(const QModelIndex& current,
-                                          const QModelIndex& previous) {
+void ConversationTreeView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
   QTreeView::currentChanged(current, previous);
   if (following_) return;
   currentMoved_ = true;

@@ -48,9 +48,9 @@ class ConversationTreeView final : public QTreeView {
   void SetNodeExpanded(const QModelIndex& index, bool expanded);
 
   ConversationTreeModel& model_;
-  bool following_ = false;      ///< The view follows the nodes, so a change is not the user's.
-  bool currentMoved_ = false;   ///< The press under way has moved the current node.
-  QSet<int> pressedKeys_;       ///< Keys that went down here: the release of another is not ours.
+  bool following_ = false;     ///< The view follows the nodes, so a change is not the user's.
+  bool currentMoved_ = false;  ///< The press under way has moved the current node.
+  QSet<int> pressedKeys_;      ///< Keys that went down here: the release of another is not ours.
 };
 
 }  // namespace parlate

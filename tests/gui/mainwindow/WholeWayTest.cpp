@@ -74,8 +74,8 @@ class WholeWay : public WindowTest {
     editor->selectAll();
     QTest::keyClicks(editor, "Welcome_1");
     QTest::keyClick(editor, Qt::Key_Return);
-    EXPECT_TRUE(QTest::qWaitFor(
-        [&] { return program.shell().SelectedCon()->conName == "Welcome_1"; }));
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return program.shell().SelectedCon()->conName == "Welcome_1"; }));
   }
 
   void ToggleFlag(RunningProgram& program) {

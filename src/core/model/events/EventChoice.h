@@ -15,12 +15,12 @@ class ChoiceItem {
  public:
   std::int32_t ID = 0;  ///< Number within the event, from `EventChoice::nextID`.
   std::string text;
-  Boolean bDisplayAsSpeech;      ///< The option is spoken: it needs an audio file.
-  std::int32_t skillID = 0;      ///< Skill row required; -1 for none.
-  std::int32_t skillLevel = 0;   ///< Index into `skillLevelNames`.
-  std::string label;             ///< Where the option leads; empty goes on with the next event.
+  Boolean bDisplayAsSpeech;     ///< The option is spoken: it needs an audio file.
+  std::int32_t skillID = 0;     ///< Skill row required; -1 for none.
+  std::int32_t skillLevel = 0;  ///< Index into `skillLevelNames`.
+  std::string label;            ///< Where the option leads; empty goes on with the next event.
   std::string audioFile;
-  FlagList flagRefs;             ///< What must hold for the option to be offered.
+  FlagList flagRefs;  ///< What must hold for the option to be offered.
 
   void Copy(const ChoiceItem& source);
   void Save(BinaryWriter& file) const;
