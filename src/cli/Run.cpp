@@ -14,6 +14,7 @@ namespace {
 
 int Fail(const Streams& streams, int code, std::string line) {
   std::replace(line.begin(), line.end(), '\n', ' ');
+  std::replace(line.begin(), line.end(), '\r', ' ');
   streams.err << "parlate-cli: " << line << '\n';
   return code;
 }
@@ -36,6 +37,8 @@ int ParseAndRun(CLI::App& app, std::vector<std::string> arguments, const Streams
     return Fail(streams, kFailure, error.what());
   } catch (const std::bad_alloc&) {
     return Fail(streams, kFailure, ErrorDescription(RuntimeError::kOutOfMemory));
+  } catch (const std::exception& error) {
+    return Fail(streams, kFailure, error.what());
   }
 }
 

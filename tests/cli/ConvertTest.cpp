@@ -88,7 +88,7 @@ TEST_F(Convert, PutsTheConversationsInTheOrderOfTheTree) {
     file.Start().Header(header).Tables(tables).I32(9).I32(static_cast<std::int32_t>(cons.size()));
     for (const auto& [owner, name] : cons) {
       ConversationFields con;
-      con.key = name[0];
+      con.key = static_cast<unsigned char>(name[0]);
       con.conName = name;
       con.owner = {owner, owner == 0 ? "Alex" : "Bob"};
       file.Conversation(con).I32(0);

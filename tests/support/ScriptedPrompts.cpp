@@ -38,7 +38,7 @@ std::string ScriptedFileDialogs::Take(const FileDialog& dialog) {
     ADD_FAILURE() << "unexpected file dialog: " << dialog.title;
     return {};
   }
-  const std::string path = answers_.front();
+  std::string path = answers_.front();
   answers_.pop_front();
   return path;
 }

@@ -16,7 +16,7 @@ namespace parlate {
 namespace {
 
 // Large enough that the system call vanishes, small enough to stay in the cache.
-constexpr std::size_t kWindowSize = 256 * 1024;
+constexpr std::size_t kWindowSize = std::size_t{256} * 1024;
 
 int OpenOrRaise(const std::string& path, int flags) {
   constexpr mode_t kMode = 0666;

@@ -50,9 +50,9 @@ void Conversation::Copy(const Conversation& source) {
 void Conversation::FixJumpReferences() {
   const ConversationDirectory* directory = Workspace::Current().conversations;
   for (EventItem& event : events) {
-    if (event.eventType != kJump) continue;
-    auto& jump = *event.As<EventJump>();
-    if (jump.conName.empty()) continue;
+    auto* found = event.As<EventJump>();
+    if (found == nullptr || found->conName.empty()) continue;
+    EventJump& jump = *found;
     jump.conID =
         directory == nullptr ? -1 : directory->GetConIDFromName(jump.conOwner, jump.conName);
     if (jump.conID == -1) jump.conID = key;
@@ -125,7 +125,7 @@ void Conversation::StoreTableData() const {
 
 void Conversation::RemoveConversationLinks(std::int32_t conKey) {
   for (EventItem& event : events) {
-    if (event.eventType == kJump) event.As<EventJump>()->RemoveConversationLinks(conKey);
+    if (auto* jump = event.As<EventJump>()) jump->RemoveConversationLinks(conKey);
   }
 }
 

@@ -102,12 +102,17 @@ void EventItem::ExportEventFilenames(std::int16_t, const std::string&, std::int1
 }
 
 void EventItem::Copy(const EventItem& source) {
+  if (source.eventObject() == nullptr) throw RuntimeError(RuntimeError::kObjectVariableNotSet);
   listPos = source.listPos;
   key = source.key;
   eventType = source.eventType;
   eventLabel = source.eventLabel;
   CreateEventObject(eventType);
-  source.Visit([this]<class Event>(const Event& from) { As<Event>()->Copy(from); });
+  source.Visit([this]<class Event>(const Event& from) {
+    Event* to = As<Event>();
+    if (to == nullptr) throw RuntimeError(RuntimeError::kTypeMismatch);
+    to->Copy(from);
+  });
 }
 
 std::string EventItem::BuildEventListString() const {

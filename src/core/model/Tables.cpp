@@ -81,6 +81,10 @@ void AddFixedTableItem(std::int32_t tableType, const std::string& name, std::int
 
 TableItem& AddTableItem(std::int32_t tableType, const std::string& name) {
   if (TableItem* row = FindTableItemByName(tableType, name)) return *row;
+  return AppendTableItem(tableType, name);
+}
+
+TableItem& AppendTableItem(std::int32_t tableType, const std::string& name) {
   std::int32_t& next = Current().nextTableID.at(static_cast<std::size_t>(tableType));
   if (next == INT32_MAX) throw RuntimeError(RuntimeError::kOverflow);
   const std::int32_t id = next++;

@@ -42,6 +42,8 @@ void BuildMissionTable();
 void AddFixedTableItem(std::int32_t tableType, const std::string& name, std::int32_t id);
 /// The row of that exact name, or a new one with the next ID.
 TableItem& AddTableItem(std::int32_t tableType, const std::string& name);
+/// A new row with the next ID, for a caller who knows that no row has the name.
+TableItem& AppendTableItem(std::int32_t tableType, const std::string& name);
 /// The first row of that exact name, or nothing.
 [[nodiscard]] TableItem* FindTableItemByName(std::int32_t tableType, std::string_view name);
 void RemoveTableItemByName(std::int32_t tableType, std::string_view name);

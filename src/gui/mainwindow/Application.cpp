@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QStandardPaths>
 #include <cstdlib>
+#include <utility>
 
 #include "general/CodePage.h"
 #include "general/RuntimeError.h"
@@ -65,7 +66,11 @@ bool Application::notify(QObject* receiver, QEvent* event) {
 }
 
 void Application::Fail(const std::exception& error) {
-  if (shell_ != nullptr && messages_ != nullptr) ReportFatalError(error, *shell_, *messages_);
+  // A second error, while the first is being told, has nothing left to rescue.
+  const bool first = !std::exchange(failing_, true);
+  if (first && shell_ != nullptr && messages_ != nullptr) {
+    ReportFatalError(error, *shell_, *messages_);
+  }
   // Nothing of the interrupted work may run on, not even its destructors.
   std::_Exit(kFatalExitCode);
 }

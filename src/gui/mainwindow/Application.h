@@ -31,6 +31,7 @@ class Application final : public QApplication {
 
   Shell* shell_ = nullptr;
   MessageBoxes* messages_ = nullptr;
+  bool failing_ = false;
 };
 
 /// Writes the open file of the shell to the recovery folder and tells the error and where the

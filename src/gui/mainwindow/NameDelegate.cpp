@@ -1,5 +1,6 @@
 #include "mainwindow/NameDelegate.h"
 
+#include <QKeyEvent>
 #include <QLineEdit>
 
 #include "platform/CodePageInput.h"
@@ -12,6 +13,19 @@ QWidget* NameDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
   editor->setAccessibleName(QStringLiteral("Name"));
   if (auto* line = qobject_cast<QLineEdit*>(editor)) KeepToCodePage(*line);
   return editor;
+}
+
+bool NameDelegate::eventFilter(QObject* editor, QEvent* event) {
+  if (event->type() == QEvent::KeyPress) {
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    auto* field = qobject_cast<QWidget*>(editor);
+    if (field != nullptr && (key == Qt::Key_Tab || key == Qt::Key_Backtab)) {
+      emit commitData(field);
+      emit closeEditor(field, NoHint);
+      return true;
+    }
+  }
+  return QStyledItemDelegate::eventFilter(editor, event);
 }
 
 }  // namespace parlate

@@ -12,6 +12,10 @@ class NameDelegate final : public QStyledItemDelegate {
   using QStyledItemDelegate::QStyledItemDelegate;
   QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                         const QModelIndex& index) const override;
+
+ protected:
+  /// Tab takes the name and stays: moving on would edit the next node, which nobody asked for.
+  bool eventFilter(QObject* editor, QEvent* event) override;
 };
 
 }  // namespace parlate

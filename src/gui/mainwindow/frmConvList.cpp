@@ -25,13 +25,15 @@ constexpr std::int32_t kMaximised = 2;
 
 ConversationDefaults& Defaults() { return Workspace::Current().defaults; }
 
-/// A window that was stored for a screen which is gone comes back in sight.
+/// A window that was stored for a screen which is gone, or larger, comes back whole and in sight.
 QRect OnScreen(QRect wanted) {
-  for (const QScreen* screen : QGuiApplication::screens()) {
-    if (screen->availableGeometry().intersects(wanted)) return wanted;
-  }
-  const QScreen* screen = QGuiApplication::primaryScreen();
-  if (screen != nullptr) wanted.moveTopLeft(screen->availableGeometry().topLeft());
+  const QScreen* screen = QGuiApplication::screenAt(wanted.center());
+  if (screen == nullptr) screen = QGuiApplication::primaryScreen();
+  if (screen == nullptr) return wanted;
+  const QRect room = screen->availableGeometry();
+  wanted.setSize(wanted.size().boundedTo(room.size()));
+  wanted.moveLeft(qBound(room.left(), wanted.left(), room.right() + 1 - wanted.width()));
+  wanted.moveTop(qBound(room.top(), wanted.top(), room.bottom() + 1 - wanted.height()));
   return wanted;
 }
 
@@ -50,6 +52,8 @@ frmConvList::frmConvList(MessageBoxes& messages, FileDialogs& dialogs, SettingsS
   setObjectName(QStringLiteral("frmConvList"));
   setWindowTitle(QStringLiteral("Conversation"));
   setWindowIcon(Icon(QStringLiteral("parlate")));
+  // The toolkit's own menu of bars would hide the toolbar behind the back of the View menu.
+  setContextMenuPolicy(Qt::NoContextMenu);
   BuildPanes();
   BuildMenus();
   BuildPopups();
@@ -81,6 +85,7 @@ bool frmConvList::InitMainWindow() {
 
 void frmConvList::Start(const std::string& commandLine) {
   show();
+  laidOut_ = true;
   SizeControls(splitterLeft_);
   const std::string path = PathOfCommandLine(commandLine);
   if (!path.empty()) shell_.OpenConFile(AbsolutePath(path));
@@ -158,10 +163,14 @@ void frmConvList::LastFilesChanged() {
   Command(QStringLiteral("mnuFileDash"))->setVisible(!Defaults().LastFiles(0).empty());
 }
 
-void frmConvList::ShowTree(bool visible) { tvCons_.setVisible(visible); }
+void frmConvList::ShowTree(bool visible) {
+  if (!visible && tvCons_.isVisible()) treeHadFocus_ = tvCons_.hasFocus();
+  tvCons_.setVisible(visible);
+  if (visible && treeHadFocus_) tvCons_.setFocus();
+}
 
 int frmConvList::ShowSettings() {
-  frmSettings dialog(Defaults(), dialogs_, *this, this);
+  frmSettings dialog(Defaults(), dialogs_, *this, isVisible() ? this : nullptr);
   dialog.exec();
   return dialog.modalResult;
 }

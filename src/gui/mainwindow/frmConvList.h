@@ -143,7 +143,9 @@ class frmConvList : public QMainWindow, private ShellView, private SettingsHost 
   int splitterBarLeft_ = 0;  ///< Twips; of the bar that shows during a drag.
   bool bMovingSplitter_ = false;
   bool sizingColumns_ = false;
-  bool loaded_ = false;  ///< `InitMainWindow` is through, so the window may be laid out.
+  bool loaded_ = false;        ///< `InitMainWindow` is through, so there are settings to store.
+  bool laidOut_ = false;       ///< The window has its size, so the splitter may be held to it.
+  bool treeHadFocus_ = false;  ///< When the tree was hidden for a while.
 };
 
 }  // namespace parlate

@@ -128,9 +128,15 @@ void frmConvList::SelectionOfListChanged() { shell_.UpdateCommandStates(); }
 
 void frmConvList::ListKeyPressed(QKeyEvent* event) {
   const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
-  if (event->key() != Qt::Key_Delete || !plain) return;
-  event->accept();
-  shell_.DeleteSelectedEvent(false);
+  if (!plain) return;
+  if (event->key() == Qt::Key_Escape) {
+    // What the mouse does with a second click on the row.
+    event->accept();
+    shell_.lstEvents().SetListIndex(-1);
+  } else if (event->key() == Qt::Key_Delete) {
+    event->accept();
+    shell_.DeleteSelectedEvent(false);
+  }
 }
 
 void frmConvList::ShowListPopup(QPoint globalPosition) {
@@ -150,6 +156,15 @@ void frmConvList::ToggleShowAudioFiles() {
 }
 
 void frmConvList::FocusFindBox() {
+  if (!tlbCon_.isVisible()) {
+    Command("mnuViewToolbar")->setChecked(true);
+    ApplyToolbarVisible();
+  }
+  // In a window too narrow for the box nothing may be typed into the tree, where letters cut.
+  if (!cboFind_.isVisible()) {
+    lstEvents_.setFocus();
+    return;
+  }
   cboFind_.setFocus(Qt::ShortcutFocusReason);
   cboFind_.lineEdit()->selectAll();
 }

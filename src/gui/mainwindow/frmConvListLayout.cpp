@@ -73,6 +73,7 @@ void frmConvList::BuildPanes() {
   imgSplitter_.setAccessibleName(QStringLiteral("Splitter"));
   imgSplitter_.setCursor(Qt::SizeHorCursor);
   imgSplitter_.setFocusPolicy(Qt::TabFocus);
+  imgSplitter_.setBackgroundRole(QPalette::Highlight);
   imgSplitter_.installEventFilter(this);
 
   picSplitter_.setParent(&client_);
@@ -110,7 +111,7 @@ void frmConvList::SizeControls(int x) {
   tvCons_.setGeometry(TwipsRect(kPaneLeft, paneTop, treeWidth, paneHeight));
   imgSplitter_.setGeometry(TwipsRect(x, paneTop, kSplitterWidth, paneHeight));
   lstEvents_.setGeometry(TwipsRect(listLeft, paneTop, listWidth, paneHeight));
-  imgSplitter_.stackUnder(&lstEvents_);
+  imgSplitter_.raise();
   lblConversations_.setGeometry(TwipsRect(0, kTitleTop, treeWidth + 70, kTitleHeight));
   lblEvents_.setGeometry(TwipsRect(listLeft, kTitleTop, listWidth - 20, kTitleHeight));
   SizeEventColumns();
@@ -130,23 +131,23 @@ void frmConvList::SizeEventColumns() {
 
 void frmConvList::resizeEvent(QResizeEvent* event) {
   QMainWindow::resizeEvent(event);
-  if (loaded_ && !isMinimized()) SizeControls(splitterLeft_);
+  if (laidOut_ && !isMinimized()) SizeControls(splitterLeft_);
 }
 
 void frmConvList::ApplyToolbarVisible() {
   tlbCon_.setVisible(Command(QStringLiteral("mnuViewToolbar"))->isChecked());
-  SizeControls(splitterLeft_);
+  if (laidOut_) SizeControls(splitterLeft_);
 }
 
 void frmConvList::ApplyStatusBarVisible() {
   statusBar()->setVisible(Command(QStringLiteral("mnuViewStatusBar"))->isChecked());
-  SizeControls(splitterLeft_);
+  if (laidOut_) SizeControls(splitterLeft_);
 }
 
 bool frmConvList::eventFilter(QObject* watched, QEvent* event) {
   if (watched == &imgSplitter_) return SplitterEvent(event);
   // The bars come and go round the client area, which then changes without the window.
-  if (watched == &client_ && event->type() == QEvent::Resize && loaded_ && !isMinimized()) {
+  if (watched == &client_ && event->type() == QEvent::Resize && laidOut_ && !isMinimized()) {
     SizeControls(splitterLeft_);
   }
   return QMainWindow::eventFilter(watched, event);
@@ -155,8 +156,13 @@ bool frmConvList::eventFilter(QObject* watched, QEvent* event) {
 bool frmConvList::SplitterEvent(QEvent* event) {
   switch (event->type()) {
     case QEvent::MouseButtonPress:
-      BeginSplitterDrag();
+      if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) BeginSplitterDrag();
       return true;
+    case QEvent::FocusIn:
+    case QEvent::FocusOut:
+      // The strip shows nothing of itself but that the keys move it.
+      imgSplitter_.setAutoFillBackground(event->type() == QEvent::FocusIn);
+      return false;
     case QEvent::MouseMove:
       MoveSplitter(qRound(static_cast<QMouseEvent*>(event)->position().x()) * kTwipsPerPixel);
       return true;

@@ -190,6 +190,10 @@ void frmConvList::BuildMenus() {
   QMenuBar& bar = *menuBar();
   bar.setNativeMenuBar(false);
   BuildMenu(addMenu(bar, "mnuFile", "&File"), FileItems());
+  for (const char* recent :
+       {"mnuFileDash", "mnuFileLast(0)", "mnuFileLast(1)", "mnuFileLast(2)", "mnuFileLast(3)"}) {
+    Command(QString::fromLatin1(recent))->setVisible(false);
+  }
   BuildMenu(addMenu(bar, "mnuCon", "&Conversation"), ConversationItems());
   QMenu& events = addMenu(bar, "mnuEvents", "Events");
   BuildEventTypeMenu(addMenu(events, "mnuEventsAdd", "&Add"), "mnuEventAdd", true);

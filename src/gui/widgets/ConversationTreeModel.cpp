@@ -79,8 +79,10 @@ QVariant ConversationTreeModel::data(const QModelIndex& index, int role) const {
 bool ConversationTreeModel::setData(const QModelIndex& index, const QVariant& value, int role) {
   TreeNode* node = NodeAt(index);
   if (node == nullptr || role != Qt::EditRole || !rename_ || renaming_) return false;
+  const std::string name = FromQString(value.toString());
+  if (name == node->text) return false;  // the field was opened and left as it was
   renaming_ = true;
-  const bool taken = rename_(*node, FromQString(value.toString()));
+  const bool taken = rename_(*node, name);
   renaming_ = false;
   return taken;
 }

@@ -18,7 +18,7 @@ ConversationTreeView::ConversationTreeView(ConversationTreeModel& model, QWidget
   connect(&model_, &ConversationTreeModel::expandedChanged, this,
           &ConversationTreeView::SetNodeExpanded);
   connect(&model_, &ConversationTreeModel::selectedItemChanged, this,
-          &ConversationTreeView::ShowSelectedItem);
+          &ConversationTreeView::RevealSelectedItem);
   const auto keep = [this](const QModelIndex& index, bool expanded) {
     if (following_) return;
     if (TreeNode* node = model_.NodeAt(index)) model_.Tree().SetExpanded(*node, expanded);
@@ -41,8 +41,21 @@ void ConversationTreeView::ShowSelectedItem() {
   if (selected == nullptr) {
     selectionModel()->clear();
   } else {
+    // Scrolling there would open the parents, behind the back of their nodes.
+    setAutoScroll(false);
     setCurrentIndex(model_.IndexOf(selected));
+    setAutoScroll(true);
   }
+}
+
+void ConversationTreeView::RevealSelectedItem() {
+  const TreeNode* selected = model_.Tree().SelectedItem();
+  TreeNode* parent = selected == nullptr ? nullptr : selected->parent;
+  for (; parent != nullptr && parent->parent != nullptr; parent = parent->parent) {
+    model_.Tree().SetExpanded(*parent, true);
+  }
+  ShowSelectedItem();
+  if (selected != nullptr) scrollTo(model_.IndexOf(selected));
 }
 
 void ConversationTreeView::SetNodeExpanded(const QModelIndex& index, bool expanded) {

@@ -45,6 +45,7 @@ class ConversationTreeView final : public QTreeView {
  private:
   void ShowAsNodes();
   void ShowSelectedItem();
+  void RevealSelectedItem();
   void SetNodeExpanded(const QModelIndex& index, bool expanded);
 
   ConversationTreeModel& model_;

@@ -15,7 +15,6 @@ namespace parlate {
 namespace {
 
 using testing::ElementsAre;
-using testing_support::ErrorOf;
 using testing_support::FileBytes;
 using testing_support::HeaderFields;
 using testing_support::OneEventFile;
@@ -231,7 +230,7 @@ TEST_F(FileFormat, KeepsAll256BytesOfEveryText) {
   tables.actors = {{0, all}};
   HeaderFields header;
   header.notes = header.audioPackage = header.createdBy = all;
-  const auto compose = [&](HeaderFields fields) {
+  const auto compose = [&](const HeaderFields& fields) {
     testing_support::ConversationFields con;
     con.conName = con.description = con.notes = all;
     con.owner = {0, all};

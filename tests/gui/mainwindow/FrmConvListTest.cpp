@@ -2,6 +2,7 @@
 #include <QClipboard>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QStatusBar>
 
 #include "mainwindow/WindowFixture.h"
@@ -329,6 +330,112 @@ TEST_F(MainWindow, CtrlFGoesToTheFindBox) {
   ASSERT_TRUE(program.Start(path));
   program.Press(Qt::Key_F, Qt::ControlModifier);
   EXPECT_TRUE(program.Find<QComboBox>("cboFind").hasFocus());
+}
+
+TEST_F(MainWindow, CtrlFBringsAHiddenToolbarBackForItsBox) {
+  const std::string path = PutSampleFile(28);
+  RunningProgram program;
+  ASSERT_TRUE(program.Start(path));
+  program.Choose("mnuViewToolbar");
+  program.Press(Qt::Key_F, Qt::ControlModifier);
+  EXPECT_TRUE(program.Find<QToolBar>("tlbCon").isVisible());
+  EXPECT_TRUE(program.Find<QComboBox>("cboFind").hasFocus());
+}
+
+TEST_F(MainWindow, CollapseAllClosesTheActorOfTheSelectedConversationToo) {
+  const std::string path = PutSampleFile(28);
+  RunningProgram program;
+  ASSERT_TRUE(program.Start(path));
+  program.ClickNode("C0");
+  program.Tree().setFocus();
+  program.Choose("mnuConCollapseAll");
+  QTest::qWait(50);  // scrolling to the selected node would come late
+  const QModelIndex actor = program.Tree().model()->index(0, 0);
+  EXPECT_FALSE(program.Tree().isExpanded(actor));
+  EXPECT_TRUE(program.Tree().hasFocus());
+  program.Choose("mnuConExpandAll");
+  EXPECT_TRUE(program.Tree().isExpanded(actor));
+}
+
+TEST_F(MainWindow, PutsTheSplitterWhereItWas) {
+  const std::string path = PutSampleFile(28);
+  RunningProgram program;
+  program.settings.values["SplitterPos"] = "9000";
+  program.settings.values["MainLeft"] = "0";
+  ASSERT_TRUE(program.Start(path));
+  EXPECT_EQ(program.Find<QWidget>("imgSplitter").x(), 600);
+  EXPECT_TRUE(program.Close());
+  EXPECT_EQ(program.settings.values["SplitterPos"], "9000");
+}
+
+TEST_F(MainWindow, KeysMoveTheSplitter) {
+  const std::string path = PutSampleFile(28);
+  RunningProgram program;
+  ASSERT_TRUE(program.Start(path));
+  auto& strip = program.Find<QWidget>("imgSplitter");
+  const int left = strip.x();
+  strip.setFocus();
+  QTest::keyClick(&strip, Qt::Key_Right);
+  EXPECT_EQ(strip.x(), left + 10);
+  QTest::keyClick(&strip, Qt::Key_Left);
+  EXPECT_EQ(strip.x(), left);
+}
+
+TEST_F(MainWindow, AWindowStoredForALargerScreenComesBackWhole) {
+  RunningProgram program;
+  program.settings.values["MainLeft"] = "30000";
+  program.settings.values["MainWidth"] = "32000";
+  ASSERT_TRUE(program.Start());
+  const QRect room = program.Window().screen()->availableGeometry();
+  const QRect placed = program.Window().geometry();
+  EXPECT_GE(placed.left(), room.left());
+  EXPECT_LE(placed.width(), room.width());
+  constexpr int kFrame = 2;  // of the platform that the tests run on
+  EXPECT_LE(placed.right(), room.right() + kFrame);
+  EXPECT_LE(placed.bottom(), room.bottom() + kFrame);
+}
+
+TEST_F(MainWindow, ANameLeftAsItWasMarksNothingAndTabStaysOnTheNode) {
+  const std::string path = PutSampleFile(28);
+  RunningProgram program;
+  ASSERT_TRUE(program.Start(path));
+  QLineEdit* editor = program.EditNode("C0");
+  ASSERT_NE(editor, nullptr);
+  QTest::keyClick(editor, Qt::Key_Tab);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return program.Tree().findChild<QLineEdit*>() == nullptr; }));
+  EXPECT_EQ(program.shell().SelectedCon()->key, 0);
+  EXPECT_FALSE(program.shell().GetConFile()->IsModified());
+}
+
+TEST_F(MainWindow, EscapeDeselectsTheRow) {
+  const std::string path = PutSampleFile(28);
+  RunningProgram program;
+  ASSERT_TRUE(program.Start(path));
+  program.ClickNode("C0");
+  program.ClickRow(2);
+  QTest::keyClick(&program.Events(), Qt::Key_Escape);
+  EXPECT_EQ(program.Events().Rows().ListIndex(), -1);
+}
+
+TEST_F(MainWindow, ClearingTheRecentFilesHidesThemAtOnceAndHighlightingEndsWithOk) {
+  const std::string path = PutSampleFile(28);
+  RunningProgram program;
+  ASSERT_TRUE(program.Start(path));
+  program.ClickNode("C0");
+  program.shell().SelectedCon()->events.Place(1)->As<EventSpeech>()->audioFile.clear();
+  program.shell().UpdateEventsList(nullptr);
+  EXPECT_EQ(program.Events().Rows().Row(0).color, kMissingAudioRow);
+  WhenFormShows("frmSettings", [&](QWidget& form) {
+    auto* clear = form.findChild<QPushButton*>("cmdClearLastFiles");
+    QTest::mouseClick(clear, Qt::LeftButton);
+    EXPECT_FALSE(clear->isEnabled());
+    EXPECT_FALSE(program.Window().Command("mnuFileDash")->isVisible());
+    EXPECT_FALSE(program.Window().Command("mnuFileLast(0)")->isVisible());
+    QTest::keyClick(form.findChild<QWidget*>("chkHighlightMissingAudio"), Qt::Key_Space);
+    QTest::mouseClick(form.findChild<QPushButton*>("cmdOK"), Qt::LeftButton);
+  });
+  program.Choose("mnuViewOptions");
+  EXPECT_EQ(program.Events().Rows().Row(0).color, kLabelRow);
 }
 
 TEST_F(MainWindow, RecentFilesStandInTheMenuAndOpen) {

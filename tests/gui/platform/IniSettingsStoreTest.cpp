@@ -16,10 +16,8 @@ using testing_support::WriteBytes;
 
 class IniSettingsStoreTest : public ::testing::Test {
  protected:
-  IniSettingsStoreTest() { qputenv("PARLATE_CONFIG_DIR", folder_.Path().c_str()); }
-  ~IniSettingsStoreTest() override { qunsetenv("PARLATE_CONFIG_DIR"); }
-  IniSettingsStoreTest(const IniSettingsStoreTest&) = delete;
-  IniSettingsStoreTest& operator=(const IniSettingsStoreTest&) = delete;
+  void SetUp() override { qputenv("PARLATE_CONFIG_DIR", folder_.Path().c_str()); }
+  void TearDown() override { qunsetenv("PARLATE_CONFIG_DIR"); }
 
   static void Store(const std::string& key, const std::string& value) {
     IniSettingsStore store;

@@ -124,7 +124,7 @@ TEST_F(QtFileDialogsTest, AnExistingFileIsTakenOnlyWhenTheUserAgrees) {
       EnterName(window, "Mission1");
       if (button == QMessageBox::No) QTest::keyClick(&window, Qt::Key_Escape);
     });
-    const std::string path = dialogs_.ShowSave(Dialog());
+    std::string path = dialogs_.ShowSave(Dialog());
     EXPECT_TRUE(asked);
     return path;
   };

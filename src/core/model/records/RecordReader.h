@@ -15,8 +15,7 @@ namespace parlate {
 struct RecordReader {
   BinaryReader& file;
   std::int32_t version;
-  /// IDs that missing actors of a name were given in this load, so that healing many references
-  /// does not search the table each time.
+  /// The IDs of all actors by name, from the first reference on that has to be healed.
   std::unordered_map<std::string, std::int32_t> healedActors;
 };
 
