@@ -18,9 +18,8 @@ class RecentFiles : public testing::Test {
   }
   void Add(const std::string& path) { AddRecentFile(defaults_, path); }
   [[nodiscard]] std::vector<std::string> Files() const {
-    std::vector<std::string> files;
-    for (int i = 0; i < 4; ++i) files.push_back(defaults_.LastFiles(i));
-    return files;
+    return {defaults_.LastFiles(0), defaults_.LastFiles(1), defaults_.LastFiles(2),
+            defaults_.LastFiles(3)};
   }
 
   ConversationDefaults defaults_;
