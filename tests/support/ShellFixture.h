@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -33,6 +34,28 @@ class RecordingShellView final : public ShellView {
   void ExpectMissingLabels(bool goOn) { labelAnswers_.push_back(goOn); }
   bool ShowMissingLabels(const std::vector<BadLabelRow>& rows, bool bSaving) override;
 
+  void AddEvent(std::int32_t eventType, const std::shared_ptr<Conversation>& con) override {
+    added.push_back({eventType, con});
+  }
+  void EditEvent(const std::shared_ptr<Conversation>& con,
+                 const std::shared_ptr<EventItem>& event) override {
+    edited.push_back({con, event});
+  }
+  [[nodiscard]] bool IsEventEditorVisible() const override { return editorVisible; }
+  void UnloadEventEditor() override {
+    ++editorUnloads;
+    editorVisible = false;
+  }
+  int ShowProperties(Conversation& con, int tabIndex) override {
+    propertyTabs.push_back(tabIndex);
+    return answerProperties ? answerProperties(con) : 1;
+  }
+  void ShowFileProperties() override {
+    ++filePropertiesShown;
+    if (answerFileProperties) answerFileProperties();
+  }
+  bool PickFlags(FlagList& flagRefs) override { return pickFlags && pickFlags(flagRefs); }
+
   struct LabelReport {
     std::vector<std::string> rows;  ///< As "conversation:label".
     bool saving;
@@ -43,6 +66,25 @@ class RecordingShellView final : public ShellView {
   int settingsShown = 0;
   std::vector<bool> treeShown;
   std::vector<LabelReport> labelReports;
+
+  struct AddedEvent {
+    std::int32_t eventType;
+    std::shared_ptr<Conversation> con;
+  };
+  struct EditedEvent {
+    std::shared_ptr<Conversation> con;
+    std::shared_ptr<EventItem> event;
+  };
+  std::vector<AddedEvent> added;
+  std::vector<EditedEvent> edited;
+  bool editorVisible = false;
+  int editorUnloads = 0;
+  std::vector<int> propertyTabs;
+  int filePropertiesShown = 0;
+  // What the user does in a dialog; without it the dialog is cancelled.
+  std::function<int(Conversation&)> answerProperties;
+  std::function<void()> answerFileProperties;
+  std::function<bool(FlagList&)> pickFlags;
 
  private:
   std::deque<bool> labelAnswers_;

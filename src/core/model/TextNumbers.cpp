@@ -31,4 +31,16 @@ std::int32_t NumberOfText(std::string_view text) {
   return RoundTo<std::int32_t>(value);
 }
 
+std::int32_t NumericValue(std::string_view text) {
+  std::string_view number = Trimmed(text);
+  if (!number.empty() && number.front() == '+') number.remove_prefix(1);
+  const std::size_t sign = number.starts_with('-') ? 1 : 0;
+  const bool begins = number.find_first_of("0123456789.", sign) == sign;  // not "nan" and "inf"
+  double value = 0;
+  if (!begins) return 0;
+  const auto error = std::from_chars(number.data(), number.data() + number.size(), value).ec;
+  if (error == std::errc::result_out_of_range) throw RuntimeError(RuntimeError::kOverflow);
+  return RoundTo<std::int32_t>(value);
+}
+
 }  // namespace parlate

@@ -74,6 +74,11 @@ void ListRows::SetSubText(std::size_t index, std::string subText) {
   if (listener_ != nullptr) listener_->RowTextChanged(index);
 }
 
+void ListRows::SetItemData(std::size_t index, std::int32_t value) {
+  RequireIndex(index, rows_.size());
+  rows_[index].itemData = value;
+}
+
 void ListRows::SetColor(std::size_t index, std::int32_t color) {
   RequireIndex(index, rows_.size());
   if (rows_[index].color == color) return;

@@ -53,6 +53,8 @@ class ListRows {
 
   void SetText(std::size_t index, std::string text);
   void SetSubText(std::size_t index, std::string subText);
+  /// The number behind a row shows nowhere, so the listener does not hear of it.
+  void SetItemData(std::size_t index, std::int32_t value);
   void SetColor(std::size_t index, std::int32_t color);
 
  private:

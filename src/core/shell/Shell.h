@@ -60,6 +60,8 @@ class Shell final : public ConversationDirectory, public ConversationTreeOrder {
   [[nodiscard]] Boolean IsTableItemReferenced(std::int32_t id, std::int32_t tableType) const;
 
   // Workflow of the file.
+  /// False if the user kept the old file or cancelled the properties of the new one.
+  Boolean NewConFile();
   void OpenConFile(const std::string& path);
   Boolean SaveConFile(Boolean bSaveAs);
   /// False if the user cancelled.
@@ -104,7 +106,10 @@ class Shell final : public ConversationDirectory, public ConversationTreeOrder {
                                               const std::string& conName) const override;
   /// With a node, that node alone; with none, every node as the settings say.
   void ExpandTreeNodes(Boolean bExpand, TreeNode* node);
+  void AddConversation();
   void DeleteConversation(Boolean bNoConfirm);
+  /// Shows the properties of the selected conversation at a tab: 0 general, 1 flags.
+  void EditConversationProperties(int tabIndex);
   void PopulateConvCombo(ComboBox& cboCons) const;
   /// A node was clicked, or reached with the keys.
   void NodeClick(TreeNode& node);
@@ -113,6 +118,8 @@ class Shell final : public ConversationDirectory, public ConversationTreeOrder {
   [[nodiscard]] bool CanRename(const TreeNode& node) const;
   /// Tests and takes a name typed in the tree; false, after a message, if it is refused.
   bool RenameConversation(TreeNode& node, const std::string& newName);
+  /// Puts flags that the user picks in the selected conversation; marks nothing as changed.
+  void AddFlags();
   void RemoveSelectedFlag();
   /// Flips the selected flag. Only the double click marks the file as changed.
   void ToggleSelectedFlag(Boolean bMarkModified);
@@ -124,12 +131,23 @@ class Shell final : public ConversationDirectory, public ConversationTreeOrder {
   void UpdateMissingLabelHighlights(const Conversation& con);
   void AddSubText(const std::string& subText, std::int32_t listPos);
   [[nodiscard]] std::shared_ptr<EventItem> GetSelectedEvent() const;
-  /// Puts a new event ahead of the selected row, or at the end, and selects it.
-  void UpdateAddEvent(const std::shared_ptr<EventItem>& newEventObj);
+  /// Opens the editor to create an event; `newAddMode` 1 appends it, 0 puts it ahead of the
+  /// selected row.
+  void AddEvent(std::int32_t eventType, std::int32_t newAddMode);
+  void EditSelectedEvent();
+  /// Select the row before or after and open its event. With no row selected they start from the
+  /// row of the event that is given, if any.
+  void EditPreviousEvent(const EventItem* eventObj);
+  void EditNextEvent(const EventItem* eventObj);
+  /// Puts a new event ahead of the selected row, or at the end, and selects it. The editor goes on
+  /// with it unless `bSilent`.
+  void UpdateAddEvent(const std::shared_ptr<EventItem>& newEventObj, Boolean bSilent);
   void UpdateEditEvent(const EventItem& newEventObj);
   [[nodiscard]] Boolean IsPreviousEvent() const;
   [[nodiscard]] Boolean IsNextEvent() const;
   void DeleteSelectedEvent(Boolean bNoConfirm);
+  /// The selected row changed: an open editor follows it.
+  void ListSelectionChanged();
   /// A click on the list: a second one on a row deselects it.
   void ListClick();
 
@@ -174,6 +192,7 @@ class Shell final : public ConversationDirectory, public ConversationTreeOrder {
   bool bReadOnly_ = false;
   std::shared_ptr<Conversation> selectedCon_;
   std::int32_t bAppendEvent_ = 1;  ///< 1 append, 0 insert.
+  bool bUpdatingEvents_ = false;   ///< An event is being added: the editor follows no row.
   std::shared_ptr<EventItem> eventBuffer_;
   std::shared_ptr<Conversation> conBuffer_;
   ConversationTree tree_;

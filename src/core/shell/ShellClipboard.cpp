@@ -30,7 +30,7 @@ void Shell::PasteEvent() {
   // Every non-empty label of an event stands in its conversation; duplicates are not tested.
   selectedCon_->AddLabel(pasted->eventLabel);
   bAppendEvent_ = events_.ListIndex() == -1 ? 1 : 0;
-  UpdateAddEvent(pasted);
+  UpdateAddEvent(pasted, true);
   eventBuffer_ = std::make_shared<EventItem>();
   eventBuffer_->Copy(*pasted);
   SetModified(true, selectedCon_.get());

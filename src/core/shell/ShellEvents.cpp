@@ -48,8 +48,37 @@ std::shared_ptr<EventItem> Shell::GetSelectedEvent() const {
   return key == -1 ? nullptr : selectedCon_->events.Share(key);
 }
 
-void Shell::UpdateAddEvent(const std::shared_ptr<EventItem>& newEventObj) {
+void Shell::AddEvent(std::int32_t eventType, std::int32_t newAddMode) {
+  bAppendEvent_ = newAddMode;
+  view_.AddEvent(eventType, selectedCon_);
+}
+
+void Shell::EditSelectedEvent() {
+  if (const auto event = GetSelectedEvent()) view_.EditEvent(selectedCon_, event);
+}
+
+void Shell::EditPreviousEvent(const EventItem* eventObj) {
+  if (events_.ListIndex() == -1 && eventObj != nullptr) events_.SetListIndex(eventObj->listPos);
+  if (!IsPreviousEvent()) return;
+  events_.SetListIndex(events_.ListIndex() - 1);
+  EditSelectedEvent();
+}
+
+void Shell::EditNextEvent(const EventItem* eventObj) {
+  if (events_.ListIndex() == -1 && eventObj != nullptr) events_.SetListIndex(eventObj->listPos);
+  if (!IsNextEvent()) return;
+  events_.SetListIndex(events_.ListIndex() + 1);
+  EditSelectedEvent();
+}
+
+void Shell::ListSelectionChanged() {
+  UpdateCommandStates();
+  if (view_.IsEventEditorVisible() && !bUpdatingEvents_) EditSelectedEvent();
+}
+
+void Shell::UpdateAddEvent(const std::shared_ptr<EventItem>& newEventObj, Boolean bSilent) {
   if (!newEventObj || !selectedCon_) return;
+  bUpdatingEvents_ = true;
   const std::int32_t selected = events_.ListIndex();
   std::size_t pos = events_.ListCount();
   if (bAppendEvent_ == 0 && selected != -1) {
@@ -69,6 +98,8 @@ void Shell::UpdateAddEvent(const std::shared_ptr<EventItem>& newEventObj) {
   if (bAppendEvent_ == 0) UpdateListPosReferences(*selectedCon_);
   SetModified(true, selectedCon_.get());
   UpdateMissingLabelHighlights(*selectedCon_);
+  bUpdatingEvents_ = false;
+  if (!bSilent) EditSelectedEvent();
   UpdateCommandStates();
 }
 

@@ -82,6 +82,7 @@ FileDialog Shell::OpenDialogSetup() const {
 }
 
 void Shell::OpenConFile(const std::string& path) {
+  view_.UnloadEventEditor();
   if (Defaults().Username.empty()) {
     Tell("", "The username field must contain a value before a conversation file can be loaded.",
          MessageBox::Icon::None);
@@ -135,6 +136,7 @@ void Shell::LoadOpened(ByteSource& source, const std::string& path) {
 }
 
 Boolean Shell::SaveConFile(Boolean bSaveAs) {
+  view_.UnloadEventEditor();
   if (bReadOnly_) {
     Tell("", "This file cannot be saved as it was opened in Read-Only mode.",
          MessageBox::Icon::None);
@@ -211,6 +213,7 @@ void Shell::MakeBackup(const std::string& path) {
 }
 
 Boolean Shell::CloseConFile() {
+  view_.UnloadEventEditor();
   if (!PromptSaveChanges()) return false;
   if (!bReadOnly_ && !conFileName.empty()) RemoveLock(conFileName);
   conFileName.clear();

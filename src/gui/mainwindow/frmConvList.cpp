@@ -7,7 +7,6 @@
 #include <QScreen>
 #include <QStatusBar>
 
-#include "editors/frmMissingLabels.h"
 #include "mainwindow/Icons.h"
 #include "mainwindow/frmSplash.h"
 #include "platform/FontSetup.h"
@@ -167,17 +166,6 @@ void frmConvList::ShowTree(bool visible) {
   if (!visible && tvCons_.isVisible()) treeHadFocus_ = tvCons_.hasFocus();
   tvCons_.setVisible(visible);
   if (visible && treeHadFocus_) tvCons_.setFocus();
-}
-
-int frmConvList::ShowSettings() {
-  frmSettings dialog(Defaults(), dialogs_, *this, isVisible() ? this : nullptr);
-  dialog.exec();
-  return dialog.modalResult;
-}
-
-bool frmConvList::ShowMissingLabels(const std::vector<BadLabelRow>& rows, bool bSaving) {
-  frmMissingLabels dialog(this);
-  return dialog.ShowMissingLabels(rows, bSaving);
 }
 
 void frmConvList::closeEvent(QCloseEvent* event) {

@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "editors/EditorDoors.h"
 #include "editors/frmSettings.h"
 #include "mainwindow/NameDelegate.h"
 #include "mainwindow/SvgPicture.h"
@@ -68,6 +69,14 @@ class frmConvList : public QMainWindow, private ShellView, private SettingsHost 
   void ShowTree(bool visible) override;
   int ShowSettings() override;
   bool ShowMissingLabels(const std::vector<BadLabelRow>& rows, bool bSaving) override;
+  void AddEvent(std::int32_t eventType, const std::shared_ptr<Conversation>& con) override;
+  void EditEvent(const std::shared_ptr<Conversation>& con,
+                 const std::shared_ptr<EventItem>& event) override;
+  [[nodiscard]] bool IsEventEditorVisible() const override;
+  void UnloadEventEditor() override;
+  int ShowProperties(Conversation& con, int tabIndex) override;
+  void ShowFileProperties() override;
+  bool PickFlags(FlagList& flagRefs) override;
 
   // SettingsHost
   void UpdateLastFiles() override { shell_.UpdateLastFiles(); }
@@ -112,6 +121,7 @@ class frmConvList : public QMainWindow, private ShellView, private SettingsHost 
   void EndSplitterDrag();
 
   [[nodiscard]] int WidthInTwips() const;
+  [[nodiscard]] EditorDoors Doors() { return {shell_, messages_, dialogs_, progress_}; }
 
   MessageBoxes& messages_;
   FileDialogs& dialogs_;

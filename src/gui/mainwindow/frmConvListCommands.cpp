@@ -124,7 +124,7 @@ void frmConvList::ConnectList() {
   connect(&lstEvents_, &MultiColumnList::columnWidthChanged, this, &frmConvList::SizeEventColumns);
 }
 
-void frmConvList::SelectionOfListChanged() { shell_.UpdateCommandStates(); }
+void frmConvList::SelectionOfListChanged() { shell_.ListSelectionChanged(); }
 
 void frmConvList::ListKeyPressed(QKeyEvent* event) {
   const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;

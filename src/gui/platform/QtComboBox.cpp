@@ -37,6 +37,11 @@ QtComboBox::QtComboBox(QWidget* parent, RowOrder order) : QComboBox(parent), ord
   connect(lineEdit(), &QLineEdit::textChanged, this, &QtComboBox::TellIfChanged);
 }
 
+void QtComboBox::MakeListOnly() {
+  typed_.reset();
+  setEditable(false);
+}
+
 void QtComboBox::Clear() {
   rows_.clear();
   typed_.reset();
@@ -61,13 +66,16 @@ void QtComboBox::AddItem(const std::string& text) {
     typed_ = typed;
     return;
   }
-  // The toolkit selects the first row of all and shows its text.
+  AddFirstItem(text);
+}
+
+void QtComboBox::AddFirstItem(const std::string& text) {
   const QString shown = currentText();
   const QSignalBlocker silence(this);
   const QSignalBlocker lineSilence(lineEdit());
-  insertItem(row, ToQString(text));
+  insertItem(0, ToQString(text));
   setCurrentIndex(-1);
-  lineEdit()->setText(shown);
+  if (isEditable()) lineEdit()->setText(shown);
 }
 
 std::string QtComboBox::List(int index) const {
@@ -96,12 +104,18 @@ void QtComboBox::SetListIndex(int index) {
 std::string QtComboBox::Text() const { return FromQString(currentText()); }
 
 void QtComboBox::SetText(const std::string& text) {
+  if (!isEditable()) {
+    SetListIndex(findText(ToQString(text), Qt::MatchFixedString | Qt::MatchCaseSensitive));
+    return;
+  }
   typed_ = ToQString(text);
   lineEdit()->setText(*typed_);
   TellIfChanged();
 }
 
-void QtComboBox::SelectText(int start, int length) { lineEdit()->setSelection(start, length); }
+void QtComboBox::SelectText(int start, int length) {
+  if (isEditable()) lineEdit()->setSelection(start, length);
+}
 
 void QtComboBox::SetFocus() { setFocus(Qt::OtherFocusReason); }
 

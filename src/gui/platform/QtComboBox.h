@@ -24,6 +24,9 @@ class QtComboBox final : public QComboBox, public ComboBox {
  public:
   explicit QtComboBox(QWidget* parent = nullptr, RowOrder order = RowOrder::AsAdded);
 
+  /// Leaves nothing to type: the text is that of the selected row, or none.
+  void MakeListOnly();
+
   void Clear() override;
   /// Adds a row with the number 0 behind it. Neither the text nor the selected row changes.
   void AddItem(const std::string& text) override;
@@ -38,6 +41,7 @@ class QtComboBox final : public QComboBox, public ComboBox {
   /// Selects a row and shows its text; -1 empties the text. An index without a row counts as -1.
   void SetListIndex(int index) override;
   [[nodiscard]] std::string Text() const override;
+  /// A list-only combo selects the row of that text, or none.
   void SetText(const std::string& text) override;
   void SelectText(int start, int length) override;
   void SetFocus() override;
@@ -54,6 +58,8 @@ class QtComboBox final : public QComboBox, public ComboBox {
   };
 
   [[nodiscard]] bool Holds(int index) const { return index >= 0 && index < ListCount(); }
+  /// Adds the first row of all, which the toolkit would select and show.
+  void AddFirstItem(const std::string& text);
   void TakeAsTyped();
   void TellIfChanged();
 

@@ -11,9 +11,11 @@ QtListBox::QtListBox(QWidget* parent, RowOrder order) : QListWidget(parent), ord
   setUniformItemSizes(true);
 }
 
-void QtListBox::AddItem(const std::string& text) {
-  insertItem(IndexForNewRow(order_, count(), text, [this](int index) { return List(index); }),
-             ToQString(text));
+int QtListBox::AddRow(const std::string& text, std::int32_t itemData) {
+  const int row = IndexForNewRow(order_, count(), text, [this](int index) { return List(index); });
+  insertItem(row, ToQString(text));
+  SetItemData(row, itemData);
+  return row;
 }
 
 std::string QtListBox::List(int index) const {

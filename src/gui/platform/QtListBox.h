@@ -18,7 +18,9 @@ class QtListBox final : public QListWidget, public ListBox {
 
   void Clear() override { clear(); }
   /// Adds a row with the number 0 behind it. What is selected stays so.
-  void AddItem(const std::string& text) override;
+  void AddItem(const std::string& text) override { AddRow(text, 0); }
+  /// Adds a row with that number behind it and returns its index.
+  int AddRow(const std::string& text, std::int32_t itemData);
   [[nodiscard]] int ListCount() const override { return count(); }
   /// The text of a row, empty for an index without one.
   [[nodiscard]] std::string List(int index) const override;

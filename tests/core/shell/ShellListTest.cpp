@@ -103,7 +103,7 @@ TEST_F(ShellList, KnowsWhetherThereAreRowsAroundTheSelectedOne) {
 TEST_F(ShellList, AddsAnEventAtTheEndAndSelectsIt) {
   program_.moment = 45100;
   ClickRow(1);
-  Window().UpdateAddEvent(NewComment("new", "Fresh"));
+  Window().UpdateAddEvent(NewComment("new", "Fresh"), true);
   EXPECT_THAT(RowKeys(), ElementsAre(1, 2, 3, 4, 5, 6));
   EXPECT_EQ(KeysInOrder(), RowKeys());
   EXPECT_EQ(Selected(), 5);
@@ -116,9 +116,9 @@ TEST_F(ShellList, AddsAnEventAtTheEndAndSelectsIt) {
 
 TEST_F(ShellList, IgnoresAnAddWithoutEventOrConversation) {
   const auto event = NewComment("new");
-  Window().UpdateAddEvent(nullptr);
+  Window().UpdateAddEvent(nullptr, true);
   Click("A1");
-  Window().UpdateAddEvent(event);
+  Window().UpdateAddEvent(event, true);
   EXPECT_FALSE(Window().GetConFile()->IsModified());
   EXPECT_EQ(ConOf(0).events.Count(), 5U);
 }
@@ -127,7 +127,7 @@ TEST_F(ShellList, MendsTheColoursOfOthersWhenALabelComes) {
   ConOf(0).events.At(4).As<EventJump>()->label = "Fresh";
   Window().UpdateEventsList(nullptr);
   ASSERT_EQ(RowColors().at(3), kRed);
-  Window().UpdateAddEvent(NewComment("new", "Fresh"));
+  Window().UpdateAddEvent(NewComment("new", "Fresh"), true);
   EXPECT_EQ(RowColors().at(3), kPlain);
 }
 

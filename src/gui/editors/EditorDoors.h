@@ -1,0 +1,17 @@
+#pragma once
+
+#include "general/Prompts.h"
+#include "shell/Shell.h"
+
+namespace parlate {
+
+/// What the editors reach beyond themselves: the open file and its window's commands, and the doors
+/// through which they speak to the user.
+struct EditorDoors {
+  Shell& shell;
+  MessageBoxes& messages;
+  FileDialogs& dialogs;
+  ProgressDisplay& progress;
+};
+
+}  // namespace parlate

@@ -1,0 +1,37 @@
+// The dialogs and the editor that the main window opens for the shell.
+
+#include "editors/FlagListEdit.h"
+#include "editors/frmMissingLabels.h"
+#include "mainwindow/frmConvList.h"
+
+namespace parlate {
+
+int frmConvList::ShowSettings() {
+  frmSettings dialog(Workspace::Current().defaults, dialogs_, *this, isVisible() ? this : nullptr);
+  dialog.exec();
+  return dialog.modalResult;
+}
+
+bool frmConvList::ShowMissingLabels(const std::vector<BadLabelRow>& rows, bool bSaving) {
+  frmMissingLabels dialog(this);
+  return dialog.ShowMissingLabels(rows, bSaving);
+}
+
+void frmConvList::AddEvent(std::int32_t, const std::shared_ptr<Conversation>&) {}
+
+void frmConvList::EditEvent(const std::shared_ptr<Conversation>&,
+                            const std::shared_ptr<EventItem>&) {}
+
+bool frmConvList::IsEventEditorVisible() const { return false; }
+
+void frmConvList::UnloadEventEditor() {}
+
+int frmConvList::ShowProperties(Conversation&, int) { return 1; }
+
+void frmConvList::ShowFileProperties() {}
+
+bool frmConvList::PickFlags(FlagList& flagRefs) {
+  return parlate::PickFlags(flagRefs, false, this);
+}
+
+}  // namespace parlate
