@@ -22,6 +22,40 @@ std::size_t SortedPlace(const TreeNode& parent, const std::string& text) {
   return static_cast<std::size_t>(at - parent.children.begin());
 }
 
+/// A node on its way to its place, with the first bytes of its folded name behind those that all
+/// names share, as a number: most comparisons of a sort end there and need not look into the node.
+struct SortedNode {
+  std::uint64_t beginning = 0;
+  std::unique_ptr<TreeNode> node;
+
+  bool operator<(const SortedNode& other) const {
+    if (beginning != other.beginning) return beginning < other.beginning;
+    return LessNoCase(node->text, other.node->text);
+  }
+};
+
+/// Bytes from `from` on of the folded text, the first of them the highest; zero behind the end.
+std::uint64_t FoldedBytes(std::string_view text, std::size_t from) {
+  std::uint64_t bytes = 0;
+  for (std::size_t i = from; i < from + sizeof(bytes); ++i) {
+    const auto byte = i < text.size() ? static_cast<unsigned char>(FoldCase(text[i])) : 0U;
+    bytes = bytes << 8U | byte;
+  }
+  return bytes;
+}
+
+/// How many bytes the names of all children begin with alike.
+std::size_t SharedBeginning(const TreeNode& parent) {
+  if (parent.children.empty()) return 0;
+  std::string_view shared = parent.children.front()->text;
+  for (const auto& child : parent.children) {
+    const auto end =
+        std::mismatch(shared.begin(), shared.end(), child->text.begin(), child->text.end());
+    shared = shared.substr(0, static_cast<std::size_t>(end.first - shared.begin()));
+  }
+  return shared.size();
+}
+
 void WalkFrom(TreeNode& node, const std::function<void(TreeNode&)>& visit) {
   for (const auto& child : node.children) {
     visit(*child);
@@ -237,9 +271,15 @@ void ConversationTree::SetExpanded(TreeNode& node, bool expanded) {
 }
 
 void ConversationTree::SortChildren(TreeNode& parent) {
-  std::stable_sort(
-      parent.children.begin(), parent.children.end(),
-      [](const auto& left, const auto& right) { return LessNoCase(left->text, right->text); });
+  const std::size_t shared = SharedBeginning(parent);
+  std::vector<SortedNode> nodes;
+  nodes.reserve(parent.children.size());
+  for (auto& child : parent.children) {
+    const std::uint64_t beginning = FoldedBytes(child->text, shared);
+    nodes.push_back({beginning, std::move(child)});
+  }
+  std::stable_sort(nodes.begin(), nodes.end());
+  for (std::size_t i = 0; i < nodes.size(); ++i) parent.children[i] = std::move(nodes[i].node);
   Renumber(parent, 0);
   parent.unsorted = false;
 }
