@@ -74,7 +74,7 @@ void OpenFile::TreeViewAddConversation(const std::shared_ptr<Conversation>& con,
   TreeNode& node = tree_.AddConversation(*actor, con->key, con->conName);
   for (std::size_t place = 1; place <= con->flagRefs.Count(); ++place) {
     const FlagRef& flag = *con->flagRefs.Place(place);
-    tree_.AddFlag(node, con->flagRefs.KeyAt(place), flag.Desc(), flag.bValue);
+    tree_.AddFlag(node, con->flagRefs.KeyAt(place), flagTexts_.Of(flag), flag.bValue);
   }
 }
 

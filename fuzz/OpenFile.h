@@ -10,6 +10,7 @@
 #include "model/ConversationFile.h"
 #include "model/Workspace.h"
 #include "shell/ConversationTree.h"
+#include "shell/FlagTexts.h"
 
 namespace parlate::fuzzing {
 
@@ -55,6 +56,7 @@ class OpenFile final : public ConversationDirectory,
   WorkspaceScope scope_;
   ConversationFile file_;
   ConversationTree tree_;
+  FlagTexts flagTexts_;
   BadLabels badLabels_;
   int messages_ = 0;
 };

@@ -14,14 +14,19 @@ namespace parlate::cli {
 
 namespace {
 
-Json ToJson(const std::vector<BadLabelRow>& rows) {
-  Json list = Json::array();
+void WriteRows(std::ostream& out, const std::vector<BadLabelRow>& rows) {
+  JsonList list(out);
   for (const BadLabelRow& row : rows) {
-    list.push_back({{"conversation", ToUtf8(row.conversation)},
-                    {"label", ToUtf8(row.label)},
-                    {"eventKey", row.eventKey}});
+    list.Add({{"conversation", ToUtf8(*row.conversation)},
+              {"label", ToUtf8(row.label)},
+              {"eventKey", row.eventKey}});
   }
-  return list;
+  list.Close();
+  out << '\n';
+}
+
+std::vector<std::string> Cells(const BadLabelRow& row) {
+  return {ToUtf8(*row.conversation), ToUtf8(row.label), std::to_string(row.eventKey)};
 }
 
 void WriteTable(std::ostream& out, const std::vector<BadLabelRow>& rows) {
@@ -30,10 +35,9 @@ void WriteTable(std::ostream& out, const std::vector<BadLabelRow>& rows) {
     return;
   }
   TextTable table({"Conversation", "Label", "Event key"});
-  for (const BadLabelRow& row : rows) {
-    table.AddRow({ToUtf8(row.conversation), ToUtf8(row.label), std::to_string(row.eventKey)});
-  }
-  table.Write(out);
+  for (const BadLabelRow& row : rows) table.Measure(Cells(row));
+  table.WriteHead(out);
+  for (const BadLabelRow& row : rows) table.WriteRow(out, Cells(row));
 }
 
 }  // namespace
@@ -52,7 +56,7 @@ void AddCheckCommand(CLI::App& app, const Streams& streams, int& result) {
     session.Load(options->path);
     const auto rows = CheckLabels(session.file, session, session.badLabels);
     if (options->json) {
-      WriteJson(streams.out, ToJson(rows));
+      WriteRows(streams.out, rows);
     } else {
       WriteTable(streams.out, rows);
     }

@@ -42,12 +42,8 @@ Json MissionsToJson(const ConversationFile& file) {
   return missions;
 }
 
-Json FileToJson(const Session& session) {
+Json HeaderToJson(const Session& session) {
   const ConversationFile& file = session.file;
-  Json conversations = Json::array();
-  for (const Conversation& con : file.Conversations) {
-    conversations.push_back(ConversationToJson(con));
-  }
   return {{"versionNum", file.versionNum},
           {"CreationDate", file.CreationDate},
           {"CreatedBy", ToUtf8(file.CreatedBy)},
@@ -58,8 +54,19 @@ Json FileToJson(const Session& session) {
           {"missions", MissionsToJson(file)},
           {"currentKey", file.CurrentKey()},
           {"tables", TablesToJson()},
-          {"nextTableID", NextIdsToJson(session.workspace.tables)},
-          {"Conversations", std::move(conversations)}};
+          {"nextTableID", NextIdsToJson(session.workspace.tables)}};
+}
+
+void WriteFile(std::ostream& out, const Session& session) {
+  std::string header = HeaderToJson(session).dump();
+  header.pop_back();  // the conversations stand behind the rest of the same object
+  out << header << ",\"Conversations\":";
+  JsonList conversations(out);
+  for (const Conversation& con : session.file.Conversations) {
+    conversations.Add(ConversationToJson(con));
+  }
+  conversations.Close();
+  out << "}\n";
 }
 
 }  // namespace
@@ -71,7 +78,7 @@ void AddDumpCommand(CLI::App& app, const Streams& streams, int& result) {
   command->callback([path, streams, &result] {
     Session session;
     session.Load(*path);
-    WriteJson(streams.out, FileToJson(session));
+    WriteFile(streams.out, session);
     result = kSuccess;
   });
 }

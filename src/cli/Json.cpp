@@ -173,4 +173,10 @@ Json ConversationToJson(const Conversation& con) {
 
 void WriteJson(std::ostream& out, const Json& value) { out << value << '\n'; }
 
+std::ostream& JsonList::Next() {
+  if (!first_) out_ << ',';
+  first_ = false;
+  return out_;
+}
+
 }  // namespace parlate::cli

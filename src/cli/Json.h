@@ -18,4 +18,18 @@ using Json = nlohmann::ordered_json;
 /// One value on one line.
 void WriteJson(std::ostream& out, const Json& value);
 
+/// A list that is written while it is made: all of it at once can be many times the file.
+class JsonList {
+ public:
+  explicit JsonList(std::ostream& out) : out_(out) { out_ << '['; }
+  void Add(const Json& value) { Next() << value; }
+  /// For an element that the caller writes.
+  std::ostream& Next();
+  void Close() { out_ << ']'; }
+
+ private:
+  std::ostream& out_;
+  bool first_ = true;
+};
+
 }  // namespace parlate::cli

@@ -1,4 +1,5 @@
 #include <cstdio>
+#include <functional>
 #include <memory>
 #include <ostream>
 #include <string>
@@ -24,11 +25,6 @@ struct ListOptions {
   bool noHighlight = false;
 };
 
-struct ListedConversation {
-  const Conversation* con;
-  std::vector<ListRow> rows;
-};
-
 std::string ColorText(std::int32_t color) {
   char buffer[16];
   std::snprintf(buffer, sizeof(buffer), "%06X", static_cast<unsigned>(color));
@@ -51,22 +47,37 @@ std::string ColorMeaning(std::int32_t color) {
   }
 }
 
-Json ToJson(const std::vector<ListedConversation>& list) {
-  Json conversations = Json::array();
-  for (const auto& [con, rows] : list) {
-    Json events = Json::array();
-    for (const ListRow& row : rows) {
-      Json color;
-      if (row.color != kDefaultRow) color = ColorText(row.color);
-      events.push_back({{"key", row.itemData},
-                        {"row", ToUtf8(row.text)},
-                        {"subText", ToUtf8(row.subText)},
-                        {"color", color}});
-    }
-    conversations.push_back(
-        {{"key", con->key}, {"conName", ToUtf8(con->conName)}, {"events", std::move(events)}});
+/// Calls back with the row of each event, which is gone afterwards: rows repeat the names of
+/// actors and flags, and all of them at once can be many times the file.
+void ForEachRow(Session& session, const Conversation& con,
+                const std::function<void(const ListRow&)>& visit) {
+  for (const EventItem& event : con.events) {
+    visit(BuildEventRow(con, event));
+    session.badLabels.ClearBadLabels();
   }
-  return conversations;
+}
+
+Json ToJson(const ListRow& row) {
+  Json color;
+  if (row.color != kDefaultRow) color = ColorText(row.color);
+  return {{"key", row.itemData},
+          {"row", ToUtf8(row.text)},
+          {"subText", ToUtf8(row.subText)},
+          {"color", color}};
+}
+
+void WriteJsonRows(std::ostream& out, Session& session) {
+  JsonList conversations(out);
+  session.ForEachConversation([&](const Conversation& con) {
+    conversations.Next() << R"({"key":)" << con.key << R"(,"conName":)" << Json(ToUtf8(con.conName))
+                         << R"(,"events":)";
+    JsonList events(out);
+    ForEachRow(session, con, [&](const ListRow& row) { events.Add(ToJson(row)); });
+    events.Close();
+    out << '}';
+  });
+  conversations.Close();
+  out << '\n';
 }
 
 /// The first three fields at the semicolons; the last field keeps its own.
@@ -82,26 +93,29 @@ std::vector<std::string> Fields(const std::string& row) {
   return fields;
 }
 
-void WriteTables(std::ostream& out, const std::vector<ListedConversation>& list) {
-  for (const auto& [con, rows] : list) {
-    out << ToUtf8(GetTableItemName(kActorTable, con->NPCID)) << " - " << ToUtf8(con->conName)
-        << " (key " << con->key << ")\n";
-    TextTable table({"Key", "Label", "Action", "NPC", "Description", "Remark"});
-    for (const ListRow& row : rows) {
-      std::vector<std::string> cells = Fields(row.text);
-      const std::string subText = ToUtf8(row.subText);
-      if (cells[3].empty()) {
-        cells[3] = subText;
-      } else if (!subText.empty()) {
-        cells[3] += "  " + subText;
-      }
-      cells.insert(cells.begin(), std::to_string(row.itemData));
-      cells.push_back(ColorMeaning(row.color));
-      table.AddRow(std::move(cells));
-    }
-    table.Write(out);
-    out << '\n';
+std::vector<std::string> Cells(const ListRow& row) {
+  std::vector<std::string> cells = Fields(row.text);
+  const std::string subText = ToUtf8(row.subText);
+  if (cells[3].empty()) {
+    cells[3] = subText;
+  } else if (!subText.empty()) {
+    cells[3] += "  " + subText;
   }
+  cells.insert(cells.begin(), std::to_string(row.itemData));
+  cells.push_back(ColorMeaning(row.color));
+  return cells;
+}
+
+void WriteTables(std::ostream& out, Session& session) {
+  session.ForEachConversation([&](const Conversation& con) {
+    out << ToUtf8(GetTableItemName(kActorTable, con.NPCID)) << " - " << ToUtf8(con.conName)
+        << " (key " << con.key << ")\n";
+    TextTable table({"Key", "Label", "Action", "NPC", "Description", "Remark"});
+    ForEachRow(session, con, [&](const ListRow& row) { table.Measure(Cells(row)); });
+    table.WriteHead(out);
+    ForEachRow(session, con, [&](const ListRow& row) { table.WriteRow(out, Cells(row)); });
+    out << '\n';
+  });
 }
 
 void List(const ListOptions& options, std::ostream& out) {
@@ -110,20 +124,13 @@ void List(const ListOptions& options, std::ostream& out) {
   session.workspace.defaults.bShowAudioFiles = !options.noAudioFiles;
   session.workspace.defaults.bHighlightMissingAudio = !options.noHighlight;
   session.Load(options.path);
-  // All rows are made before the first is written: a failure leaves nothing on the output.
-  std::vector<ListedConversation> list;
-  session.ForEachConversation([&](const Conversation& con) {
-    ListedConversation& listed = list.emplace_back();
-    listed.con = &con;
-    for (const EventItem& event : con.events) {
-      listed.rows.push_back(BuildEventRow(con, event));
-      session.badLabels.ClearBadLabels();
-    }
-  });
+  // Every row is made once before the first is written: a failure leaves nothing on the output.
+  session.ForEachConversation(
+      [&session](const Conversation& con) { ForEachRow(session, con, [](const ListRow&) {}); });
   if (options.json) {
-    WriteJson(out, ToJson(list));
+    WriteJsonRows(out, session);
   } else {
-    WriteTables(out, list);
+    WriteTables(out, session);
   }
 }
 

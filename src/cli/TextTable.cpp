@@ -1,6 +1,8 @@
 #include "cli/TextTable.h"
 
 #include <algorithm>
+#include <iterator>
+#include <string_view>
 #include <utility>
 
 namespace parlate::cli {
@@ -14,41 +16,53 @@ std::size_t WidthOf(const std::string& utf8) {
   }));
 }
 
-void OnOneLine(std::string& cell) {
-  std::replace_if(
-      cell.begin(), cell.end(), [](char c) { return c == '\r' || c == '\n' || c == '\t'; }, ' ');
+void WriteOnOneLine(std::ostream& out, std::string_view cell) {
+  std::replace_copy_if(
+      cell.begin(), cell.end(), std::ostreambuf_iterator<char>(out),
+      [](char c) { return c == '\r' || c == '\n' || c == '\t'; }, ' ');
+}
+
+void WriteMany(std::ostream& out, std::size_t count, char c) {
+  std::fill_n(std::ostreambuf_iterator<char>(out), count, c);
 }
 
 }  // namespace
 
-TextTable::TextTable(std::vector<std::string> head) { rows_.push_back(std::move(head)); }
-
-void TextTable::AddRow(std::vector<std::string> cells) {
-  for (std::string& cell : cells) OnOneLine(cell);
-  cells.resize(rows_.front().size());
-  rows_.push_back(std::move(cells));
+TextTable::TextTable(std::vector<std::string> head) : head_(std::move(head)) {
+  widths_.resize(head_.size());
+  Measure(head_);
 }
 
-void TextTable::Write(std::ostream& out) const {
-  std::vector<std::size_t> widths(rows_.front().size(), 0);
-  for (const auto& row : rows_) {
-    for (std::size_t i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], WidthOf(row[i]));
+void TextTable::Measure(const std::vector<std::string>& cells) {
+  for (std::size_t i = 0; i < cells.size() && i < widths_.size(); ++i) {
+    widths_[i] = std::max(widths_[i], WidthOf(cells[i]));
   }
-  const auto writeRow = [&](const std::vector<std::string>& row) {
-    std::string line;
-    for (std::size_t i = 0; i < row.size(); ++i) {
-      if (i > 0) line += "  ";
-      line += row[i];
-      if (i + 1 < row.size()) line.append(widths[i] - WidthOf(row[i]), ' ');
+}
+
+void TextTable::WriteHead(std::ostream& out) const {
+  WriteRow(out, head_);
+  for (std::size_t i = 0; i < widths_.size(); ++i) {
+    if (i > 0) out << "  ";
+    WriteMany(out, widths_[i], '-');
+  }
+  out << '\n';
+}
+
+void TextTable::WriteRow(std::ostream& out, const std::vector<std::string>& cells) const {
+  // Blanks wait until something stands behind them, so that no line ends in any.
+  std::size_t pending = 0;
+  for (std::size_t i = 0; i < cells.size() && i < widths_.size(); ++i) {
+    const std::string& cell = cells[i];
+    const std::size_t last = cell.find_last_not_of(" \r\n\t");
+    if (last != std::string::npos) {
+      WriteMany(out, std::exchange(pending, cell.size() - last - 1), ' ');
+      WriteOnOneLine(out, std::string_view(cell).substr(0, last + 1));
+    } else {
+      pending += cell.size();
     }
-    line.erase(line.find_last_not_of(' ') + 1);
-    out << line << '\n';
-  };
-  writeRow(rows_.front());
-  std::vector<std::string> rule;
-  for (const std::size_t width : widths) rule.emplace_back(width, '-');
-  writeRow(rule);
-  for (std::size_t i = 1; i < rows_.size(); ++i) writeRow(rows_[i]);
+    pending += widths_[i] - WidthOf(cell) + 2;
+  }
+  out << '\n';
 }
 
 }  // namespace parlate::cli

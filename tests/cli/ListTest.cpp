@@ -144,10 +144,14 @@ TEST_F(List, TellsEveryTypeOfTheSampleOfEveryVersion) {
 
 TEST(TextTable, MakesColumnsAsWideAsTheirWidestCell) {
   TextTable table({"A", "Wide", "Z"});
-  table.AddRow({"long cell", "", "x"});
-  table.AddRow({"\xC3\xA9\xC3\xA9", "two\r\nlines"});
+  const std::vector<std::string> first = {"long cell", "", "x"};
+  const std::vector<std::string> second = {"\xC3\xA9\xC3\xA9", "two\r\nlines"};
+  table.Measure(first);
+  table.Measure(second);
   std::ostringstream out;
-  table.Write(out);
+  table.WriteHead(out);
+  table.WriteRow(out, first);
+  table.WriteRow(out, second);
   EXPECT_EQ(out.str(),
             "A          Wide        Z\n"
             "---------  ----------  -\n"

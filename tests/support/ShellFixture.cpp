@@ -10,7 +10,7 @@ RecordingShellView::~RecordingShellView() {
 
 bool RecordingShellView::ShowMissingLabels(const std::vector<BadLabelRow>& rows, bool bSaving) {
   LabelReport report{{}, bSaving};
-  for (const BadLabelRow& row : rows) report.rows.push_back(row.conversation + ":" + row.label);
+  for (const BadLabelRow& row : rows) report.rows.push_back(*row.conversation + ":" + row.label);
   labelReports.push_back(report);
   if (labelAnswers_.empty()) {
     ADD_FAILURE() << "unexpected report of missing labels";
@@ -61,7 +61,7 @@ std::vector<std::string> ShellTest::TreeLines() {
   Window().tvCons().Walk([&](TreeNode& node) {
     std::string indent;
     for (const TreeNode* up = node.parent; up->parent != nullptr; up = up->parent) indent += "  ";
-    lines.push_back(indent + node.text);
+    lines.push_back(indent + node.Text());
   });
   return lines;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -31,7 +32,8 @@ class BadLabels final : public BadLabelSink {
 
 /// A broken reference as a report names it.
 struct BadLabelRow {
-  std::string conversation;  ///< `conName` of the conversation that holds the reference.
+  /// `conName` of the conversation that holds the reference, one text for all of its rows.
+  std::shared_ptr<const std::string> conversation;
   std::string label;
   std::int32_t eventKey = 0;
 };

@@ -180,11 +180,11 @@ TreeNode& ConversationTree::AddConversation(TreeNode& actor, std::int32_t conKey
 }
 
 void ConversationTree::AddFlag(TreeNode& conversation, std::int32_t flagKey,
-                               const std::string& text, bool imageTrue) {
+                               std::shared_ptr<const std::string> text, bool imageTrue) {
   auto node = std::make_unique<TreeNode>();
   node->kind = TreeNode::Kind::Flag;
   node->id = flagKey;
-  node->text = text;
+  node->flagText = std::move(text);
   node->imageTrue = imageTrue;
   Insert(conversation, std::move(node));
 }
@@ -258,8 +258,9 @@ void ConversationTree::SetText(TreeNode& node, const std::string& text) {
   }
 }
 
-void ConversationTree::SetFlag(TreeNode& node, const std::string& text, bool imageTrue) {
-  node.text = text;
+void ConversationTree::SetFlag(TreeNode& node, std::shared_ptr<const std::string> text,
+                               bool imageTrue) {
+  node.flagText = std::move(text);
   node.imageTrue = imageTrue;
   if (!Silent()) listener_->NodeChanged(node);
 }

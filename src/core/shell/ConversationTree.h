@@ -19,9 +19,10 @@ struct TreeNode {
   enum class Kind { Root, Actor, Conversation, Flag };
 
   Kind kind = Kind::Root;
-  std::int32_t id = 0;     ///< Actor ID, conversation key, or collection key of the flag.
-  std::string text;        ///< Code-page text.
-  bool imageTrue = false;  ///< Picture of a flag: "FlagTrue" or "FlagFalse".
+  std::int32_t id = 0;  ///< Actor ID, conversation key, or collection key of the flag.
+  std::string text;     ///< Code-page text of an actor or a conversation; see `Text`.
+  std::shared_ptr<const std::string> flagText;  ///< Text of a flag, shared by all alike.
+  bool imageTrue = false;                       ///< Picture of a flag: "FlagTrue" or "FlagFalse".
   bool expanded = false;
   bool sorted = false;    ///< Whether the children stand by name.
   bool unsorted = false;  ///< Children came in during a bulk change and are sorted at its end.
@@ -29,6 +30,8 @@ struct TreeNode {
   TreeNode* parent = nullptr;
   std::vector<std::unique_ptr<TreeNode>> children;
 
+  /// What the node shows.
+  [[nodiscard]] const std::string& Text() const { return flagText ? *flagText : text; }
   /// "A" and the actor's ID, "C" and the conversation's key, "F" and the flag's key, a comma and
   /// the conversation's key.
   [[nodiscard]] std::string Key() const;
@@ -77,16 +80,17 @@ class ConversationTree {
 
   TreeNode& AddActor(std::int32_t actorID, const std::string& name);
   TreeNode& AddConversation(TreeNode& actor, std::int32_t conKey, const std::string& name);
-  void AddFlag(TreeNode& conversation, std::int32_t flagKey, const std::string& text,
-               bool imageTrue);
+  void AddFlag(TreeNode& conversation, std::int32_t flagKey,
+               std::shared_ptr<const std::string> text, bool imageTrue);
   void RemoveNode(TreeNode& node);
   void RemoveChildren(TreeNode& node);
   /// Removes every node. A sort of the actors that was switched on stays on.
   void Clear();
 
-  /// Changes the text; where siblings are sorted, the node moves to its new place.
+  /// Changes the text of an actor or a conversation; where siblings are sorted, the node moves to
+  /// its new place.
   void SetText(TreeNode& node, const std::string& text);
-  void SetFlag(TreeNode& node, const std::string& text, bool imageTrue);
+  void SetFlag(TreeNode& node, std::shared_ptr<const std::string> text, bool imageTrue);
   void SetExpanded(TreeNode& node, bool expanded);
   /// Sorts the actors, now and from now on.
   void SortActors();

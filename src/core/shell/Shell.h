@@ -12,6 +12,7 @@
 #include "model/Workspace.h"
 #include "shell/CommandStates.h"
 #include "shell/ConversationTree.h"
+#include "shell/FlagTexts.h"
 #include "shell/ListRows.h"
 #include "shell/ShellView.h"
 
@@ -196,6 +197,7 @@ class Shell final : public ConversationDirectory, public ConversationTreeOrder {
   std::shared_ptr<EventItem> eventBuffer_;
   std::shared_ptr<Conversation> conBuffer_;
   ConversationTree tree_;
+  FlagTexts loadingFlagTexts_;  ///< Of the file that is being read.
   ListRows events_;
 };
 

@@ -123,6 +123,7 @@ void Shell::LoadOpened(ByteSource& source, const std::string& path) {
     loaded = conFile_->LoadConversations(reader, Host());
   });
   tree_.EndBulk();
+  loadingFlagTexts_.Clear();
   if (loaded) {
     AddToLastFiles(path);
   } else {

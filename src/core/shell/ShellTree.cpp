@@ -30,9 +30,11 @@ void Shell::TreeViewUpdateConFlags(const Conversation& con) {
   TreeNode* node = tree_.FindConversation(con.key);
   if (node == nullptr) return;
   tree_.RemoveChildren(*node);
+  FlagTexts own;
+  FlagTexts& texts = Loading ? loadingFlagTexts_ : own;
   for (std::size_t place = 1; place <= con.flagRefs.Count(); ++place) {
     const FlagRef& flag = *con.flagRefs.Place(place);
-    tree_.AddFlag(*node, con.flagRefs.KeyAt(place), flag.Desc(), flag.bValue);
+    tree_.AddFlag(*node, con.flagRefs.KeyAt(place), texts.Of(flag), flag.bValue);
   }
 }
 
@@ -47,11 +49,12 @@ void Shell::WalkConversations(const std::function<void(std::int32_t)>& visit) co
 }
 
 void Shell::TreeViewUpdateFlagNames() {
-  tree_.Walk([this](TreeNode& node) {
+  FlagTexts texts;
+  tree_.Walk([this, &texts](TreeNode& node) {
     if (node.kind != TreeNode::Kind::Flag) return;
     const auto con = GetConFromID(node.ConversationKey());
     const FlagRef* flag = con ? con->flagRefs.Find(node.id) : nullptr;
-    if (flag != nullptr) tree_.SetText(node, flag->Desc());
+    if (flag != nullptr) tree_.SetFlag(node, texts.Of(*flag), node.imageTrue);
   });
 }
 
@@ -219,7 +222,7 @@ void Shell::ToggleSelectedFlag(Boolean bMarkModified) {
   if (flag == nullptr) return;
   TreeNode& node = *tree_.SelectedItem();
   flag->bValue = !flag->bValue;
-  tree_.SetFlag(node, flag->Desc(), flag->bValue);
+  tree_.SetFlag(node, FlagTexts().Of(*flag), flag->bValue);
   // Meant: the popup's command leaves the file unmarked, so it may close without a question.
   if (bMarkModified) SetModified(true, GetConFromID(node.ConversationKey()).get());
 }

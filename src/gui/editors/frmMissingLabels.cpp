@@ -86,7 +86,7 @@ bool frmMissingLabels::ShowMissingLabels(const std::vector<BadLabelRow>& rows, b
   std::vector<ListRow> shown;
   shown.reserve(rows.size());
   for (const BadLabelRow& row : rows) {
-    shown.push_back({row.conversation + ";" + row.label, {}, row.eventKey, -1});
+    shown.push_back({*row.conversation + ";" + row.label, {}, row.eventKey, -1});
   }
   rows_.Assign(std::move(shown));
   modalResult = 1;

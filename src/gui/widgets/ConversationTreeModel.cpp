@@ -66,9 +66,9 @@ QVariant ConversationTreeModel::data(const QModelIndex& index, int role) const {
   switch (role) {
     case Qt::DisplayRole:
     case Qt::AccessibleTextRole:
-      return ToSingleLine(node->text);
+      return ToSingleLine(node->Text());
     case Qt::EditRole:
-      return ToQString(node->text);
+      return ToQString(node->Text());
     case Qt::DecorationRole:
       return ImageOf(*node);
     default:
@@ -80,7 +80,7 @@ bool ConversationTreeModel::setData(const QModelIndex& index, const QVariant& va
   TreeNode* node = NodeAt(index);
   if (node == nullptr || role != Qt::EditRole || !rename_ || renaming_) return false;
   const std::string name = FromQString(value.toString());
-  if (name == node->text) return false;  // the field was opened and left as it was
+  if (name == node->Text()) return false;  // the field was opened and left as it was
   renaming_ = true;
   const bool taken = rename_(*node, name);
   renaming_ = false;

@@ -43,7 +43,7 @@ class LabelCheckTest : public testing::Test {
   std::vector<std::string> Check() {
     std::vector<std::string> texts;
     for (const BadLabelRow& row : CheckLabels(open_.file, open_.tree, labels_)) {
-      texts.push_back(row.conversation + ":" + row.label + ":" + std::to_string(row.eventKey));
+      texts.push_back(*row.conversation + ":" + row.label + ":" + std::to_string(row.eventKey));
     }
     return texts;
   }

@@ -86,10 +86,10 @@ TEST(ConversationTree, FindsNodesByTheirKeys) {
   ConversationTree tree;
   TreeNode& actor = tree.AddActor(12, "Zoe");
   TreeNode& con = tree.AddConversation(actor, 3, "con");
-  tree.AddFlag(con, 45, "Door = True", true);
+  tree.AddFlag(con, 45, std::make_shared<const std::string>("Door = True"), true);
   EXPECT_EQ(tree.FindNode("A12"), &actor);
   EXPECT_EQ(tree.FindNode("C3"), &con);
-  EXPECT_EQ(tree.FindNode("F45,3")->text, "Door = True");
+  EXPECT_EQ(tree.FindNode("F45,3")->Text(), "Door = True");
   EXPECT_EQ(tree.FindFlag(3, 45)->Key(), "F45,3");
   EXPECT_EQ(tree.FindFlag(3, 45)->ConversationKey(), 3);
   for (const char* key : {"", "A", "A3", "C12", "F45", "F45,", "F45,4", "F44,3", "X3", "Cx"}) {
@@ -102,7 +102,7 @@ TEST(ConversationTree, ForgetsWhatWentWithARemovedNode) {
   ConversationTree tree;
   TreeNode& actor = tree.AddActor(1, "Zoe");
   TreeNode& con = tree.AddConversation(actor, 3, "con");
-  tree.AddFlag(con, 45, "Door = True", true);
+  tree.AddFlag(con, 45, std::make_shared<const std::string>("Door = True"), true);
   tree.SetSelectedItem(tree.FindFlag(3, 45));
   tree.RemoveNode(actor);
   EXPECT_TRUE(tree.Empty());
@@ -276,7 +276,7 @@ class NaiveTree {
 
 std::vector<std::string> LinesOf(const ConversationTree& tree) {
   std::vector<std::string> lines;
-  tree.Walk([&](TreeNode& node) { lines.push_back(node.Key() + " " + node.text); });
+  tree.Walk([&](TreeNode& node) { lines.push_back(node.Key() + " " + node.Text()); });
   return lines;
 }
 

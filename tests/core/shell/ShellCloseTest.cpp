@@ -159,7 +159,7 @@ TEST_F(ShellRescue, OfAFileWithAMissingFlagRowCanBeOpenedAgainWithAllConversatio
   Window().OpenConFile(path);
   ASSERT_NE(Window().GetConFile(), nullptr);
   EXPECT_EQ(Window().GetConFile()->Conversations.Count(), 3U);
-  EXPECT_EQ(Window().tvCons().FindFlag(0, 3)->text, "Missing_3 = False");
+  EXPECT_EQ(Window().tvCons().FindFlag(0, 3)->Text(), "Missing_3 = False");
   EXPECT_NE(Window().tvCons().FindConversation(2), nullptr);
   EXPECT_FALSE(program_.progress.showing) << "the file was read to its end";
 }

@@ -157,8 +157,8 @@ TEST_F(ShellTree, UpdatingTheActorsOfNoFileDoesNothing) {
 TEST_F(ShellTree, FlagsTakeTheNewNamesOfTheirRows) {
   GetTable(kFlagTable)->At(2).Name = "Gate";
   Window().TreeViewUpdateFlagNames();
-  EXPECT_EQ(Node("F2,0").text, "Gate = True");
-  EXPECT_EQ(Node("F3,0").text, "Lamp = False");
+  EXPECT_EQ(Node("F2,0").Text(), "Gate = True");
+  EXPECT_EQ(Node("F3,0").Text(), "Lamp = False");
 }
 
 TEST_F(ShellTree, ExpandAllOpensTheFlagsOnlyWithTheSetting) {
@@ -182,7 +182,7 @@ TEST_F(ShellTree, ExpandAllWithoutTheSettingFoldsNothing) {
 TEST_F(ShellTree, CollapseAllFoldsEverythingWhateverTheSetting) {
   for (const char* key : {"A1", "C0"}) Window().ExpandTreeNodes(true, &Node(key));
   Window().ExpandTreeNodes(false, nullptr);
-  Window().tvCons().Walk([](TreeNode& node) { EXPECT_FALSE(node.expanded) << node.text; });
+  Window().tvCons().Walk([](TreeNode& node) { EXPECT_FALSE(node.expanded) << node.Text(); });
 }
 
 TEST_F(ShellTree, ExpandingOneNodeTouchesNoOther) {
@@ -190,7 +190,7 @@ TEST_F(ShellTree, ExpandingOneNodeTouchesNoOther) {
   program_.view.treeShown.clear();
   Window().ExpandTreeNodes(true, &Node("C0"));
   Window().tvCons().Walk(
-      [](TreeNode& node) { EXPECT_EQ(node.expanded, node.Key() == "C0") << node.text; });
+      [](TreeNode& node) { EXPECT_EQ(node.expanded, node.Key() == "C0") << node.Text(); });
   EXPECT_THAT(program_.view.treeShown, IsEmpty());
 }
 
@@ -205,10 +205,21 @@ TEST_F(ShellTree, ExpandAllHidesTheTreeForTheWalkAndTakesTheSelectionOfANode) {
   EXPECT_EQ(Window().SelectedCon(), nullptr) << "a flag's node is no conversation's";
 }
 
+TEST_F(ShellTree, FlagsAlikeShareOneTextHoweverManyConversationsReferToThem) {
+  const std::vector<testing_support::FlagFields> flags = {{2, "", true, 0}, {3, "", true, 0}};
+  Open(FileOf(HarbourTables(), {Con(0, "a", kZoe, {}, flags), Con(1, "b", kZoe, {}, flags)}));
+  EXPECT_EQ(&Node("F2,0").Text(), &Node("F2,1").Text());
+  EXPECT_NE(&Node("F2,0").Text(), &Node("F3,0").Text());
+  GetTable(kFlagTable)->At(2).Name = "Hatch";
+  Window().TreeViewUpdateFlagNames();
+  EXPECT_EQ(Node("F2,1").Text(), "Hatch = True");
+  EXPECT_EQ(&Node("F2,0").Text(), &Node("F2,1").Text());
+}
+
 TEST_F(ShellTree, TogglingByTheCommandLeavesTheFileUnmarked) {
   Click("F2,0");
   Window().ToggleSelectedFlag(false);
-  EXPECT_EQ(Node("F2,0").text, "Door = False");
+  EXPECT_EQ(Node("F2,0").Text(), "Door = False");
   EXPECT_EQ(Node("F2,0").Image(), "FlagFalse");
   EXPECT_FALSE(ConOf(0).flagRefs.At(2).bValue);
   EXPECT_FALSE(IsModified());
@@ -219,7 +230,7 @@ TEST_F(ShellTree, TogglingByTheCommandLeavesTheFileUnmarked) {
 TEST_F(ShellTree, DoubleClickOnAFlagTogglesItAndMarksTheFile) {
   program_.moment = 45100;
   Window().NodeDoubleClick(Click("F3,0"));
-  EXPECT_EQ(Node("F3,0").text, "Lamp = True");
+  EXPECT_EQ(Node("F3,0").Text(), "Lamp = True");
   EXPECT_EQ(Node("F3,0").Image(), "FlagTrue");
   EXPECT_TRUE(IsModified());
   EXPECT_EQ(ConOf(0).LastUpdated, 45100);

@@ -7,8 +7,12 @@
 namespace parlate {
 namespace {
 
-const std::vector<BadLabelRow> kRows{
-    {"Harbour", "Gone", 4}, {"Harbour", "Gone", 4}, {"Zo\xEB", "Nowhere", 9}};
+BadLabelRow Row(const char* conversation, const char* label, std::int32_t eventKey) {
+  return {std::make_shared<const std::string>(conversation), label, eventKey};
+}
+
+const std::vector<BadLabelRow> kRows{Row("Harbour", "Gone", 4), Row("Harbour", "Gone", 4),
+                                     Row("Zo\xEB", "Nowhere", 9)};
 
 bool IsShown(const QWidget& form, const char* name) {
   return ControlNamed<QWidget>(form, name).isVisible();

@@ -319,7 +319,7 @@ TEST_F(MainWindow, TheFlagPopupTurnsTheFlagAndMarksNothingAsChanged) {
   ASSERT_TRUE(QTest::qWaitFor([&] { return popup.isVisible(); }));
   popup.close();
   program.Choose("mnuFlagPopupToggle");
-  EXPECT_EQ(program.shell().tvCons().FindNode("F2,0")->text, "Door = False");
+  EXPECT_EQ(program.shell().tvCons().FindNode("F2,0")->Text(), "Door = False");
   EXPECT_FALSE(program.shell().GetConFile()->IsModified());
   EXPECT_TRUE(program.Close());
 }
