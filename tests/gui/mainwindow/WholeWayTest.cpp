@@ -81,7 +81,7 @@ class WholeWay : public WindowTest {
   void ToggleFlag(RunningProgram& program) {
     program.shell().ExpandTreeNodes(true, program.shell().tvCons().FindNode("C0"));
     program.DoubleClickNode("F2,0");
-    EXPECT_EQ(program.shell().tvCons().FindNode("F2,0")->text, "Door = False");
+    EXPECT_EQ(program.shell().tvCons().FindNode("F2,0")->Text(), "Door = False");
     EXPECT_EQ(program.shell().tvCons().FindNode("F2,0")->Image(), "FlagFalse");
   }
 

@@ -40,7 +40,10 @@ class MultiColumnListPaintingTest : public MultiColumnListTest {
 
   QImage Picture() {
     Settle();
-    return Area()->grab().toImage();
+    // One pixel of the picture a pixel of the layout, whatever the scale of the screen.
+    QImage picture(Area()->size(), QImage::Format_RGB32);
+    Area()->render(&picture);
+    return picture;
   }
 
   // A place of a row that no text and no line reaches.
