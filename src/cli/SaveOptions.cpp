@@ -1,5 +1,6 @@
 #include "cli/SaveOptions.h"
 
+#include <cmath>
 #include <cstdlib>
 
 #include "general/CodePage.h"
@@ -13,6 +14,7 @@ void SaveOptions::AddTo(CLI::App& command) {
 }
 
 void SaveOptions::Apply(Session& session) const {
+  if (now && !std::isfinite(*now)) throw CLI::ValidationError("--now", "is no moment");
   session.workspace.defaults.Username = FromUtf8(user);
   if (now) session.workspace.now = [moment = *now] { return moment; };
 }

@@ -44,14 +44,14 @@ Shell::LockAnswer Shell::AskAboutLock(const std::string& holder) {
             "This file was previously opened by you and may not have been shut down properly.\n"
             "Do you wish to override the lock?  Selecting 'No' will cause the file to be\n"
             "opened in Read-Only mode, preventing you from saving changes.",
-            MessageBox::Icon::Question, MessageBox::Buttons::YesNoCancel);
+            MessageBox::Icon::None, MessageBox::Buttons::YesNoCancel);
     if (answer == Answer::Yes) return LockAnswer::TakeOver;
     return answer == Answer::No ? LockAnswer::ReadOnly : LockAnswer::GiveUp;
   }
   const Answer answer = Ask(
       "File in use!",
       "This file is currently open by " + holder + ".\nDo you wish to open it in Read-Only mode?",
-      MessageBox::Icon::Question, MessageBox::Buttons::YesNo);
+      MessageBox::Icon::None, MessageBox::Buttons::YesNo);
   return answer == Answer::Yes ? LockAnswer::ReadOnly : LockAnswer::GiveUp;
 }
 

@@ -55,7 +55,7 @@ TEST_F(ShellLock, TakesItsNameFromThePathUpToTheFirstPoint) {
 
 TEST_F(ShellLock, OfTheUsersOwnInOtherCaseIsAskedAbout) {
   OpenLockedBy("TESTER", Answer::Cancel);
-  EXPECT_THAT(LastBox(), IsBox(kOwnTitle, kOwnText, Icon::Question, Buttons::YesNoCancel));
+  EXPECT_THAT(LastBox(), IsBox(kOwnTitle, kOwnText, Icon::None, Buttons::YesNoCancel));
 }
 
 TEST_F(ShellLock, OfTheUsersOwnIsTakenOverOnYes) {
@@ -96,7 +96,7 @@ TEST_F(ShellLock, OfAnotherIsAskedAboutAndOpensReadOnlyOnYes) {
   EXPECT_THAT(LastBox(), IsBox("File in use!",
                                "This file is currently open by ben.\nDo you wish to open it in "
                                "Read-Only mode?",
-                               Icon::Question, Buttons::YesNo));
+                               Icon::None, Buttons::YesNo));
   EXPECT_TRUE(Window().IsReadOnly());
   EXPECT_NE(Window().GetConFile(), nullptr);
   Window().CloseConFile();
