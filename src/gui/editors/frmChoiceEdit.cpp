@@ -61,7 +61,6 @@ bool frmChoiceEdit::AddChoice(const std::shared_ptr<ChoiceItem>& newChoice, QWid
                               const std::shared_ptr<Conversation>& conObj) {
   LoadForm(parent, conObj);
   chkShowChoice.setChecked(true);
-  localChoiceItem->ID = newChoice->ID;
   return Run(*newChoice);
 }
 
