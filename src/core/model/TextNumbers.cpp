@@ -33,7 +33,7 @@ std::int32_t NumberOfText(std::string_view text) {
 
 std::int32_t NumericValue(std::string_view text) {
   std::string_view number = Trimmed(text);
-  if (!number.empty() && number.front() == '+') number.remove_prefix(1);
+  if (number.starts_with('+') && !number.starts_with("+-")) number.remove_prefix(1);
   const std::size_t sign = number.starts_with('-') ? 1 : 0;
   const bool begins = number.find_first_of("0123456789.", sign) == sign;  // not "nan" and "inf"
   double value = 0;

@@ -158,6 +158,18 @@ void ExpectEqual(const Things& things, const NaiveModel& model) {
   }
 }
 
+TEST(KeyedCollection, RemovesAllItemsWhoseKeysPassATestAndFindsTheOthers) {
+  Things things;
+  for (const int key : {20, 3, 11, 7, 15, 1, 9, 30, 2, 40}) things.Add(key, NewThing(key));
+  EXPECT_NE(things.Find(9), nullptr);
+  things.RemoveIf([](std::int32_t key) { return key > 8 && key != 30; });
+  EXPECT_THAT(ValuesOf(things), ElementsAre(3, 7, 1, 30, 2));
+  EXPECT_EQ(things.Find(9), nullptr);
+  EXPECT_EQ(things.PlaceOf(30), 4U);
+  things.Add(9, NewThing(90));
+  EXPECT_EQ(things.At(9).value, 90);
+}
+
 TEST(KeyedCollection, AgreesWithAPlainListOverThousandsOfRandomOperations) {
   std::mt19937 random(20010207);
   const auto below = [&random](int limit) { return static_cast<int>(random() % limit); };

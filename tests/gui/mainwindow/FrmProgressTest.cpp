@@ -100,6 +100,22 @@ TEST_F(FrmProgressTest, OneBarIsTheLowWindowAndTwoAreTheHighOne) {
   EXPECT_FALSE(Bar2().isVisible());
 }
 
+TEST_F(FrmProgressTest, ATextBelowTheOneBarStandsForItsWalkAlone) {
+  progress_.Begin("Progress", "Removing Table Entries...", 4);
+  EXPECT_FALSE(Text2().isVisible());
+  progress_.StepBelow("Zo\xEB & <b>", 3);
+  EXPECT_TRUE(Text2().isVisible());
+  EXPECT_FALSE(Bar2().isVisible());
+  EXPECT_EQ(Text().text(), "Removing Table Entries...");
+  EXPECT_EQ(Text2().text(), QStringLiteral(u"Zo\u00EB & <b>"));
+  EXPECT_EQ(Bar().value(), 3);
+  EXPECT_GE(progress_.height(), Text2().geometry().bottom());
+  progress_.End();
+  progress_.Begin("Loading Conversations...", "Tables", 2);
+  EXPECT_FALSE(Text2().isVisible());
+  EXPECT_EQ(Text2().text(), "");
+}
+
 TEST_F(FrmProgressTest, TheSecondTextAndBarGoTheirOwnWay) {
   progress_.SetBarCount(2);
   progress_.Begin("Progress", "first", 4);

@@ -67,6 +67,38 @@ TEST_F(QtComboBoxTest, AddingRowsLeavesATypedText) {
   EXPECT_EQ(combo_.ListIndex(), -1);
 }
 
+TEST_F(QtComboBoxTest, AListOnlyComboTakesNothingTyped) {
+  combo_.MakeListOnly();
+  Fill({"Novice", "Master"});
+  EXPECT_EQ(combo_.ListIndex(), -1);
+  EXPECT_EQ(combo_.Text(), "");
+  EXPECT_EQ(combo_.lineEdit(), nullptr);
+  combo_.SetFocus();
+  QTest::keyClick(&combo_, Qt::Key_X);
+  EXPECT_EQ(combo_.ListIndex(), -1);
+  QTest::keyClick(&combo_, Qt::Key_M);
+  EXPECT_EQ(combo_.ListIndex(), 1) << "a letter picks the row that begins with it";
+  EXPECT_EQ(combo_.Text(), "Master");
+  combo_.SetText("Novice");
+  EXPECT_EQ(combo_.ListIndex(), 0);
+  combo_.SetText("novice");
+  EXPECT_EQ(combo_.ListIndex(), -1) << "the text is that of a row, letter by letter, or none";
+  EXPECT_EQ(combo_.Text(), "");
+  combo_.SelectText(0, 3);
+  combo_.Clear();
+  EXPECT_EQ(combo_.ListCount(), 0);
+}
+
+TEST_F(QtComboBoxTest, AComboMadeListOnlyTellsOfItsChanges) {
+  combo_.MakeListOnly();
+  Fill({"Novice", "Master"});
+  const QSignalSpy changes(&combo_, &QtComboBox::choiceChanged);
+  combo_.SetListIndex(1);
+  EXPECT_EQ(changes.count(), 1);
+  combo_.Clear();
+  EXPECT_EQ(changes.count(), 2);
+}
+
 TEST_F(QtComboBoxTest, SelectingShowsTheTextAndMinusOneEmptiesIt) {
   Fill({"Anna", "Bo"});
   combo_.SetListIndex(1);

@@ -1,6 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <QTest>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "platform/QtListBox.h"
 
@@ -45,6 +48,50 @@ TEST(QtListBox, SortedRowsKeepTheirNumbersAndTheirSelection) {
   EXPECT_EQ(list.ItemData(2), 10);
   EXPECT_TRUE(list.Selected(2));
   EXPECT_FALSE(list.Selected(0));
+}
+
+TEST(QtListBox, ARowIsAddedWithItsNumberAtItsPlace) {
+  QtListBox list(nullptr, RowOrder::ByName);
+  EXPECT_EQ(list.AddRow("walter", 10), 0);
+  EXPECT_EQ(list.AddRow("Anna", 11), 0);
+  EXPECT_EQ(list.AddRow("Walter", 12), 2) << "of equal ones the older stands first";
+  EXPECT_EQ(list.AddRow("bo", 13), 1);
+  const std::vector<std::pair<std::string, std::int32_t>> expected = {
+      {"Anna", 11}, {"bo", 13}, {"walter", 10}, {"Walter", 12}};
+  ASSERT_EQ(list.ListCount(), 4);
+  for (int row = 0; row < 4; ++row) {
+    const auto& [text, number] = expected[static_cast<std::size_t>(row)];
+    EXPECT_EQ(list.List(row), text);
+    EXPECT_EQ(list.ItemData(row), number);
+  }
+  QtListBox plain;
+  plain.AddRow("b", 1);
+  EXPECT_EQ(plain.AddRow("a", 2), 1);
+}
+
+TEST(QtListBox, ARowThatHasTheFocusIsSelectedOnlyByAKeyOrAClick) {
+  QtListBox list;
+  for (const char* name : {"a", "b"}) list.AddItem(name);
+  list.show();
+  list.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&list));
+  list.setFocus();
+  EXPECT_EQ(list.ListIndex(), -1);
+  QTest::keyClick(&list, Qt::Key_Down);
+  EXPECT_NE(list.ListIndex(), -1);
+  list.SetListIndex(-1);
+  EXPECT_EQ(list.ListIndex(), -1);
+}
+
+TEST(QtListBox, ARowTakesANewTextAndKeepsItsPlaceAndNumber) {
+  QtListBox list(nullptr, RowOrder::ByName);
+  list.AddRow("Anna", 1);
+  list.AddRow("Bo", 2);
+  list.SetList(0, "Zo\xEB");
+  EXPECT_EQ(list.List(0), "Zo\xEB");
+  EXPECT_EQ(list.ItemData(0), 1);
+  list.SetList(5, "nobody");
+  EXPECT_EQ(list.ListCount(), 2);
 }
 
 TEST(QtListBox, ClicksSelectSeveralRowsWhereThatIsAllowed) {

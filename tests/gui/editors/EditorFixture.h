@@ -1,0 +1,60 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "editors/panels/EventPanel.h"
+#include "mainwindow/WindowFixture.h"
+#include "platform/Modal.h"
+#include "support/TestWorkspace.h"
+
+namespace parlate::testing_support {
+
+/// A running program with the sample file open, whose dialogs a test can work on.
+class EditorTest : public WindowTest {
+ protected:
+  EditorTest() : path_(PutSampleFile(28)) {
+    program_.dialogs.Expect(path_);
+    EXPECT_TRUE(program_.Start());
+    program_.Press(Qt::Key_O, Qt::ControlModifier);
+    EXPECT_NE(program_.shell().GetConFile(), nullptr);
+  }
+
+  [[nodiscard]] EditorDoors Doors() {
+    return {program_.shell(), program_.messages, program_.dialogs, progress_};
+  }
+  [[nodiscard]] const std::vector<MessageBox>& Boxes() const { return program_.messages.shown; }
+  [[nodiscard]] const std::shared_ptr<Conversation>& ConOf(std::int32_t key) {
+    return program_.shell().GetConFile()->Conversations.Share(key);
+  }
+
+  std::string path_;
+  RunningProgram program_;
+  RecordingProgress progress_;
+};
+
+inline void Click(const QWidget& form, const char* name) {
+  QTest::mouseClick(&ControlNamed<QWidget>(form, name), Qt::LeftButton);
+}
+inline bool IsEnabled(const QWidget& form, const char* name) {
+  return ControlNamed<QWidget>(form, name).isEnabled();
+}
+inline QLineEdit& TextOf(const QWidget& form, const char* name) {
+  return ControlNamed<QLineEdit>(form, name);
+}
+
+/// A table editor whose user does as the test says.
+class ScriptedTableEditor final : public TableEditor {
+ public:
+  std::int32_t EditTableDialog(std::int32_t tableType) override {
+    opened.push_back(tableType);
+    return user ? user() : -1;
+  }
+
+  std::vector<std::int32_t> opened;
+  std::function<std::int32_t()> user;
+};
+
+}  // namespace parlate::testing_support
