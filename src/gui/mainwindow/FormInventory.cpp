@@ -1,5 +1,7 @@
 #include "mainwindow/FormInventory.h"
 
+#include "editors/frmExport.h"
+#include "editors/frmImport.h"
 #include "editors/frmMissingLabels.h"
 #include "editors/frmSettings.h"
 #include "mainwindow/frmAbout.h"
@@ -26,6 +28,16 @@ class NobodyBehind : public FileDialogs, public SettingsHost {
 class LoadedSettings : private NobodyBehind, public frmSettings {
  public:
   LoadedSettings() : frmSettings(defaults, *this, *this) {}
+};
+
+class LoadedExport : private NobodyBehind, public frmExport {
+ public:
+  LoadedExport() : frmExport(defaults, *this, [](const std::string&, std::int32_t, Boolean) {}) {}
+};
+
+class LoadedImport : private NobodyBehind, public frmImport {
+ public:
+  LoadedImport() : frmImport(defaults, *this, [](const std::string&) {}) {}
 };
 
 /// The main window with settings of its own, and nobody to answer its questions.
@@ -61,6 +73,8 @@ std::vector<FormFactory> AllForms() {
       Factory<frmProgress>("frmProgress"),
       Factory<frmMissingLabels>("frmMissingLabels"),
       Factory<LoadedSettings>("frmSettings"),
+      Factory<LoadedExport>("frmExport"),
+      Factory<LoadedImport>("frmImport"),
   };
 }
 

@@ -90,6 +90,7 @@ class frmConvList : public QMainWindow, private ShellView, private SettingsHost 
   void BuildToolbar();
   void BuildPanes();
   void ConnectCommands();
+  void ConnectInterchangeCommands();
   void ConnectTree();
   void ConnectList();
   void On(const QString& command, std::function<void()> handler);
