@@ -27,6 +27,11 @@ void AddDumpCommand(CLI::App& app, const Streams& streams, int& result);
 void AddListCommand(CLI::App& app, const Streams& streams, int& result);
 void AddCheckCommand(CLI::App& app, const Streams& streams, int& result);
 void AddConvertCommand(CLI::App& app, const Streams& streams, int& result);
+void AddExportCommand(CLI::App& app, const Streams& streams, int& result);
+void AddImportCommand(CLI::App& app, const Streams& streams, int& result);
+void AddAudioCommand(CLI::App& app, const Streams& streams, int& result);
+void AddStatsCommand(CLI::App& app, const Streams& streams, int& result);
+void AddPasteCommand(CLI::App& app, const Streams& streams, int& result);
 
 /// Runs the tool on its arguments, without the program's name, and returns the exit code. A failure
 /// is one line on `err` that begins with "parlate-cli: ".

@@ -45,7 +45,7 @@ int ParseAndRun(CLI::App& app, std::vector<std::string> arguments, const Streams
 }  // namespace
 
 int Run(const std::vector<std::string>& arguments, const Streams& streams) {
-  CLI::App app("Reads, lists, checks and converts conversation files.", "parlate-cli");
+  CLI::App app("Works on conversation files without the editor.", "parlate-cli");
   app.set_version_flag("--version", PARLATE_VERSION);
   app.require_subcommand(1);
   int result = kSuccess;
@@ -53,6 +53,11 @@ int Run(const std::vector<std::string>& arguments, const Streams& streams) {
   AddListCommand(app, streams, result);
   AddCheckCommand(app, streams, result);
   AddConvertCommand(app, streams, result);
+  AddExportCommand(app, streams, result);
+  AddImportCommand(app, streams, result);
+  AddAudioCommand(app, streams, result);
+  AddStatsCommand(app, streams, result);
+  AddPasteCommand(app, streams, result);
   return ParseAndRun(app, arguments, streams, result);
 }
 

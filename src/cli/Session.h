@@ -47,14 +47,15 @@ class Session final : public ConversationDirectory,
   void TreeViewAddConversation(const std::shared_ptr<Conversation>& con, Boolean bSelect) override;
   void WalkConversations(const std::function<void(std::int32_t)>& visit) const override;
 
+  /// What walks over the conversations ask for: a message ends the command as a refusal.
+  [[nodiscard]] FileHost Host() { return {*this, *this, *this}; }
+
  private:
   Answer Show(const MessageBox& box) override;
   void Begin(const std::string&, const std::string&, int) override {}
   void SetTop(int) override {}
   void Step(const std::string&, int) override {}
   void End() override {}
-
-  [[nodiscard]] FileHost Host() { return {*this, *this, *this}; }
 
   WorkspaceScope scope_;
   ConversationTree tree_;

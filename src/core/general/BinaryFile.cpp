@@ -63,7 +63,9 @@ std::size_t MemorySource::Read(char* bytes, std::size_t size) {
   return count;
 }
 
-FileSink::FileSink(const std::string& path) : descriptor_(OpenOrRaise(path, O_WRONLY | O_CREAT)) {}
+FileSink::FileSink(const std::string& path, Content content)
+    : descriptor_(
+          OpenOrRaise(path, O_WRONLY | O_CREAT | (content == Content::Replace ? O_TRUNC : 0))) {}
 
 FileSink::~FileSink() { ::close(descriptor_); }
 

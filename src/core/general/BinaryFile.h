@@ -59,11 +59,13 @@ class MemorySource final : public ByteSource {
   std::size_t position_ = 0;
 };
 
-/// A file open for binary writing, positioned at its start and not cut short: the bytes of a
-/// longer predecessor stay behind the new end.
+/// A file open for binary writing, positioned at its start. Unless it is to be replaced it is not
+/// cut short: the bytes of a longer predecessor stay behind the new end.
 class FileSink final : public ByteSink {
  public:
-  explicit FileSink(const std::string& path);
+  enum class Content { Keep, Replace };
+
+  explicit FileSink(const std::string& path, Content content = Content::Keep);
   ~FileSink() override;
   FileSink(const FileSink&) = delete;
   FileSink& operator=(const FileSink&) = delete;

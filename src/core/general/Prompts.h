@@ -30,6 +30,8 @@ struct FileDialog {
   std::string filter;         ///< Pairs of caption and pattern, all split at "|".
   std::string initialFolder;  ///< Empty leaves the choice to the platform.
   std::string fileName;
+  /// Whether a dialog for saving asks before it takes a file that exists.
+  bool asksToReplace = true;
 };
 
 /// The one door to the common file dialogs. An empty result means that the user cancelled.

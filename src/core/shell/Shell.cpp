@@ -61,7 +61,7 @@ CommandPredicates Shell::Predicates() const {
   predicates.conSelected = selectedCon_ != nullptr;
   predicates.eventSelected = events_.ListIndex() != -1;
   predicates.eventBuffered = eventBuffer_ != nullptr;
-  predicates.conBuffered = conBuffer_ != nullptr;
+  predicates.conBuffered = conClipboard_.Holds();
   return predicates;
 }
 
@@ -78,7 +78,7 @@ std::vector<CommandState> Shell::ConPopupStates() const {
   const bool con = node != nullptr && node->kind == TreeNode::Kind::Conversation;
   const bool expandable = con && !node->expanded && !node->children.empty();
   return {
-      {"mnuConPopupPaste", conBuffer_ != nullptr},
+      {"mnuConPopupPaste", conClipboard_.Holds()},
       {"mnuConPopupDelete", con},
       {"mnuConPopupProperties", con},
       {"mnuConPopupPrint", con},

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "general/Prompts.h"
+#include "integrity/ConversationClipboard.h"
 #include "integrity/LabelCheck.h"
 #include "model/ConversationFile.h"
 #include "model/Workspace.h"
@@ -163,6 +164,15 @@ class Shell final : public ConversationDirectory, public ConversationTreeOrder {
   void PasteConversation();
   void ChangeConTableLink(std::int32_t tableType, std::int32_t oldID, std::int32_t newID);
 
+  // Text interchange. An empty file name does nothing. See `ExportMode`.
+  void ExportConFile(const std::string& fileName, std::int32_t exportMode, Boolean bExportComments);
+  void ImportConFile(const std::string& fileName);
+  /// Gives every spoken line its audio file, whatever it had. RuntimeError 5 for a speaker or an
+  /// owner without an actor row.
+  void GenerateAudioFilenames();
+  /// The local folder of a conversation's audio.
+  [[nodiscard]] std::string BuildAudioPath(const Conversation& con) const;
+
  private:
   [[nodiscard]] FileHost Host() { return {doors_.messages, doors_.progress, *this}; }
   [[nodiscard]] ConversationDefaults& Defaults() const { return workspace_.defaults; }
@@ -185,6 +195,8 @@ class Shell final : public ConversationDirectory, public ConversationTreeOrder {
   Boolean PromptSaveChanges();
   void AddToLastFiles(const std::string& path);
   void TreeViewRemoveConversation(const Conversation& con, std::int32_t oldNPCID);
+  /// Shows the events of the selected conversation anew; the selected row stays.
+  void RefreshEventsList();
   [[nodiscard]] bool IsNameTakenByAnother(const Conversation& con, const std::string& name) const;
   [[nodiscard]] FlagRef* SelectedFlag() const;
 
@@ -197,7 +209,7 @@ class Shell final : public ConversationDirectory, public ConversationTreeOrder {
   std::int32_t bAppendEvent_ = 1;  ///< 1 append, 0 insert.
   bool bUpdatingEvents_ = false;   ///< An event is being added: the editor follows no row.
   std::shared_ptr<EventItem> eventBuffer_;
-  std::shared_ptr<Conversation> conBuffer_;
+  ConversationClipboard conClipboard_;
   ConversationTree tree_;
   FlagTexts loadingFlagTexts_;  ///< Of the file that is being read.
   ListRows events_;

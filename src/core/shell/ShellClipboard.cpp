@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "model/Tables.h"
 #include "shell/Shell.h"
 
 namespace parlate {
@@ -38,40 +37,24 @@ void Shell::PasteEvent() {
 }
 
 void Shell::CopyConversation() {
-  if (!selectedCon_) return;
-  conBuffer_ = std::make_shared<Conversation>();
-  conBuffer_->Copy(*selectedCon_);
-  ClearTableBuffer();
-  conBuffer_->StoreTableData();
+  if (selectedCon_) conClipboard_.Copy(*selectedCon_);
 }
 
 void Shell::CutConversation() {
   if (!selectedCon_) return;
-  conBuffer_ = selectedCon_;
-  ClearTableBuffer();
-  conBuffer_->StoreTableData();
+  conClipboard_.Take(selectedCon_);
   DeleteConversation(true);
 }
 
 void Shell::PasteConversation() {
-  if (!conBuffer_ || !conFile_) return;
-  RestoreBufferedTableItems();
-  const std::shared_ptr<Conversation> pasted = std::move(conBuffer_);
-  conBuffer_ = std::make_shared<Conversation>();
-  pasted->key = conFile_->NextKey();
-  pasted->FixJumpReferences();
-  conFile_->Conversations.Add(pasted->key, pasted);
-  // The copy comes ahead of the re-linking: the buffer keeps the IDs that its links were stored
-  // with, so that it can be pasted again.
-  conBuffer_->Copy(*pasted);
-  pasted->FixTableReferences();
-  TreeViewAddConversation(pasted, true);
+  if (!conClipboard_.Holds() || !conFile_) return;
+  TreeViewAddConversation(conClipboard_.Paste(*conFile_), true);
   SetModified(true, nullptr);
   UpdateCommandStates();
 }
 
 void Shell::ChangeConTableLink(std::int32_t tableType, std::int32_t oldID, std::int32_t newID) {
-  if (conBuffer_) conBuffer_->ChangeConTableLink(tableType, oldID, newID);
+  conClipboard_.ChangeConTableLink(tableType, oldID, newID);
 }
 
 }  // namespace parlate

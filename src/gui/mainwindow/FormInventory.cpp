@@ -4,6 +4,8 @@
 #include "editors/frmChoiceEdit.h"
 #include "editors/frmEditValue.h"
 #include "editors/frmFlagList.h"
+#include "editors/frmExport.h"
+#include "editors/frmImport.h"
 #include "editors/frmMissingLabels.h"
 #include "editors/frmPlayAudio.h"
 #include "editors/frmSettings.h"
@@ -32,6 +34,16 @@ class NobodyBehind : public FileDialogs, public SettingsHost {
 class LoadedSettings : private NobodyBehind, public frmSettings {
  public:
   LoadedSettings() : frmSettings(defaults, *this, *this) {}
+};
+
+class LoadedExport : private NobodyBehind, public frmExport {
+ public:
+  LoadedExport() : frmExport(defaults, *this, [](const std::string&, std::int32_t, Boolean) {}) {}
+};
+
+class LoadedImport : private NobodyBehind, public frmImport {
+ public:
+  LoadedImport() : frmImport(defaults, *this, [](const std::string&) {}) {}
 };
 
 /// The main window with settings of its own, and nobody to answer its questions.
@@ -113,6 +125,8 @@ std::vector<FormFactory> AllForms() {
       Factory<LoadedChoiceEdit>("frmChoiceEdit"),
       Factory<frmCameraProperties>("frmCameraProperties"),
       Factory<LoadedPlayAudio>("frmPlayAudio"),
+      Factory<LoadedExport>("frmExport"),
+      Factory<LoadedImport>("frmImport"),
   };
 }
 

@@ -97,6 +97,7 @@ class frmConvList : public QMainWindow,
   void BuildPanes();
   void ConnectCommands();
   void ConnectTableCommands();
+  void ConnectInterchangeCommands();
   void ConnectTree();
   void ConnectList();
   void On(const QString& command, std::function<void()> handler);

@@ -35,6 +35,7 @@ void frmConvList::ConnectCommands() {
        [this, i] { shell_.OpenLastFile(Shell::LastFileCaption(i)); });
   }
   On("mnuFileExit", [this] { close(); });
+  ConnectInterchangeCommands();
 
   On("mnuConDelete", deleteCon);
   On("mnuConPopupDelete", deleteCon);

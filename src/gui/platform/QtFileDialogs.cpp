@@ -59,6 +59,7 @@ std::string QtFileDialogs::ShowSave(const FileDialog& dialog) {
   window.setAcceptMode(QFileDialog::AcceptSave);
   window.setFileMode(QFileDialog::AnyFile);
   window.setDefaultSuffix(DefaultExtension(dialog.filter));
+  window.setOption(QFileDialog::DontConfirmOverwrite, !dialog.asksToReplace);
   SetUp(window, dialog);
   return Run(window);
 }
