@@ -13,6 +13,8 @@
 
 namespace parlate {
 
+class PrintPages;
+
 /// One conversation of the file: its header, the flags that gate it, its events in their order of
 /// play, and its jump labels.
 class Conversation {
@@ -78,6 +80,14 @@ class Conversation {
   void RemoveConversationLinks(std::int32_t conKey);
   /// Redirects every reference to the rows that the buffered ones were restored to.
   void FixTableReferences();
+  /// Prints the conversation from the pen on. False, with nothing printed, if it has no events.
+  Boolean PrintConversation(PrintPages& pages, Boolean bDetailedHeader) const;
+
+ private:
+  /// Prints the title, or only measures it; returns its height.
+  Twips PrintConversationHeader(PrintPages& pages, int x, Boolean bCalculateHeightOnly,
+                                Boolean bContinued) const;
+  void PrintConversationFlags(PrintPages& pages, int x) const;
 };
 
 }  // namespace parlate

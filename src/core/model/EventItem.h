@@ -16,6 +16,7 @@
 namespace parlate {
 
 class BinaryWriter;
+class PrintPages;
 
 /// One event of a conversation: what all types share, and the one concrete object, which it holds
 /// in place. `eventType` and the class of the object agree at all times.
@@ -98,8 +99,12 @@ class EventItem {
   void GatherTableItems(std::int32_t tableType, IDSet& ids) const;
   void ChangeTableLink(std::int32_t tableType, std::int32_t oldID, std::int32_t newID);
   void StoreTableData() const;
+  /// Prints label, heading and body. False if the event does not fit and nothing of it was printed,
+  /// or if its body declined.
+  Boolean PrintEvent(PrintPages& pages, int x, int bottom) const;
 
  private:
+  void PrintHeading(PrintSurface& surface, const std::string& actor) const;
   /// The object, or RuntimeError 91 if there is none.
   [[nodiscard]] EventObject& Object();
   [[nodiscard]] const EventObject& Object() const;

@@ -7,6 +7,7 @@
 #include "general/Boolean.h"
 #include "general/CodePage.h"
 #include "general/IDSet.h"
+#include "general/PrintSurface.h"
 #include "model/TableItem.h"
 #include "model/Vocabulary.h"
 
@@ -46,6 +47,11 @@ class EventObject {
   virtual void ChangeTableLink(std::int32_t tableType, std::int32_t oldID, std::int32_t newID);
   /// Puts the rows that the event refers to in the table buffer.
   virtual void StoreTableData() const {}
+  /// Height of the body on paper, in the surface's font. Nothing is printed.
+  [[nodiscard]] virtual Twips GetEventPrintHeight(PrintSurface& surface) const;
+  /// Prints the body from the pen's height on, with its left edge at `x`. False if it would pass
+  /// `bottom` and nothing of it was printed.
+  virtual Boolean PrintEvent(PrintSurface& surface, int x, int bottom) const;
 
  protected:
   EventObject() = default;

@@ -55,6 +55,8 @@ class EventRandom final : public EventObject {
   [[nodiscard]] std::string BuildEventListString() const override;
   [[nodiscard]] std::string BuildEventListSubString() const override;
   [[nodiscard]] Boolean AreLabelsValid(const Conversation& con) const override;
+  [[nodiscard]] Twips GetEventPrintHeight(PrintSurface& surface) const override;
+  Boolean PrintEvent(PrintSurface& surface, int x, int bottom) const override;
   void PopulateLabelsList(ListBox& list) const;
 
   /// All labels, in order.
@@ -82,6 +84,8 @@ class EventCheckFlag final : public EventObject {
   void GatherTableItems(std::int32_t tableType, IDSet& ids) const override;
   void ChangeTableLink(std::int32_t tableType, std::int32_t oldID, std::int32_t newID) override;
   void StoreTableData() const override;
+  [[nodiscard]] Twips GetEventPrintHeight(PrintSurface& surface) const override;
+  Boolean PrintEvent(PrintSurface& surface, int x, int bottom) const override;
 };
 
 /// Gives flags values.
@@ -100,6 +104,8 @@ class EventSetFlag final : public EventObject {
   void GatherTableItems(std::int32_t tableType, IDSet& ids) const override;
   void ChangeTableLink(std::int32_t tableType, std::int32_t oldID, std::int32_t newID) override;
   void StoreTableData() const override;
+  [[nodiscard]] Twips GetEventPrintHeight(PrintSurface& surface) const override;
+  Boolean PrintEvent(PrintSurface& surface, int x, int bottom) const override;
 };
 
 /// Goes on elsewhere when the player lacks an object.
@@ -135,6 +141,8 @@ class EventCheckPersona final : public EventObject {
   void Update(std::int32_t newPersonaType, std::int32_t newCondition, const std::string& newValue,
               const std::string& newJumpLabel);
   [[nodiscard]] std::string BuildEventListString() const override { return {}; }
+  [[nodiscard]] Twips GetEventPrintHeight(PrintSurface&) const override { return 0; }
+  Boolean PrintEvent(PrintSurface&, int, int) const override { return true; }
 };
 
 /// Ends the conversation.
@@ -145,6 +153,8 @@ class EventEnd final : public EventObject {
   void LoadEvent(RecordReader&) override {}
   void Update() {}
   [[nodiscard]] std::string BuildEventListString() const override { return {}; }
+  [[nodiscard]] Twips GetEventPrintHeight(PrintSurface&) const override { return 0; }
+  Boolean PrintEvent(PrintSurface&, int, int) const override { return true; }
 };
 
 }  // namespace parlate

@@ -111,6 +111,7 @@ class EventTrigger final : public EventObject {
   void LoadEvent(RecordReader& in) override;
   void Update(const std::string& newTriggerTag) { triggerTag = newTriggerTag; }
   [[nodiscard]] std::string BuildEventListString() const override;
+  [[nodiscard]] Twips GetEventPrintHeight(PrintSurface& surface) const override;
   [[nodiscard]] Boolean FindString(std::string_view searchString, Boolean bWholeWord,
                                    CompareMethod compareMethod) const override;
 };
@@ -130,6 +131,8 @@ class EventAddGoal final : public EventObject {
               const std::string& newGoalText, Boolean bNewPrimaryGoal);
   [[nodiscard]] std::string BuildEventListString() const override;
   [[nodiscard]] std::string BuildEventListSubString() const override;
+  [[nodiscard]] Twips GetEventPrintHeight(PrintSurface& surface) const override;
+  Boolean PrintEvent(PrintSurface& surface, int x, int bottom) const override;
   [[nodiscard]] Boolean FindString(std::string_view searchString, Boolean bWholeWord,
                                    CompareMethod compareMethod) const override;
 };
@@ -184,6 +187,8 @@ class EventComment final : public EventObject {
   void Update(const std::string& newCommentText) { commentText = newCommentText; }
   [[nodiscard]] std::string BuildEventListString() const override;
   [[nodiscard]] std::string BuildEventListSubString() const override { return commentText; }
+  [[nodiscard]] Twips GetEventPrintHeight(PrintSurface& surface) const override;
+  Boolean PrintEvent(PrintSurface& surface, int x, int bottom) const override;
   [[nodiscard]] Boolean FindString(std::string_view searchString, Boolean bWholeWord,
                                    CompareMethod compareMethod) const override;
 };

@@ -54,6 +54,10 @@ class EventChoice final : public EventObject {
   [[nodiscard]] Boolean IsAudioMissing() const;
   void ChangeTableLink(std::int32_t tableType, std::int32_t oldID, std::int32_t newID) override;
   void StoreTableData() const override;
+  [[nodiscard]] Twips GetEventPrintHeight(PrintSurface& surface) const override;
+  Boolean PrintEvent(PrintSurface& surface, int x, int bottom) const override;
+  /// Prints the choices, or only measures them; returns their height.
+  Twips PrintChoices(PrintSurface& surface, int x, Boolean bCalculateHeightOnly) const;
 };
 
 }  // namespace parlate

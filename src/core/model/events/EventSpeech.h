@@ -35,6 +35,8 @@ class EventSpeech final : public EventObject {
   void GatherTableItems(std::int32_t tableType, IDSet& ids) const override;
   void ChangeTableLink(std::int32_t tableType, std::int32_t oldID, std::int32_t newID) override;
   void StoreTableData() const override;
+  [[nodiscard]] Twips GetEventPrintHeight(PrintSurface& surface) const override;
+  Boolean PrintEvent(PrintSurface& surface, int x, int bottom) const override;
 
   /// Whether no audio file is named.
   [[nodiscard]] Boolean IsAudioMissing() const { return audioFile.empty(); }
