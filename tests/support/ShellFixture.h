@@ -55,6 +55,10 @@ class RecordingShellView final : public ShellView {
     if (answerFileProperties) answerFileProperties();
   }
   bool PickFlags(FlagList& flagRefs) override { return pickFlags && pickFlags(flagRefs); }
+  std::optional<PrintChoice> ShowPrintOptions(bool selectedThere, bool bPrintAll) override {
+    printOptionsShown.push_back({selectedThere, bPrintAll});
+    return answerPrintOptions ? answerPrintOptions() : std::nullopt;
+  }
 
   struct LabelReport {
     std::vector<std::string> rows;  ///< As "conversation:label".
@@ -85,6 +89,15 @@ class RecordingShellView final : public ShellView {
   std::function<int(Conversation&)> answerProperties;
   std::function<void()> answerFileProperties;
   std::function<bool(FlagList&)> pickFlags;
+  std::function<std::optional<PrintChoice>()> answerPrintOptions;
+
+  struct PrintOptionsAsked {
+    bool selectedThere;
+    bool bPrintAll;
+
+    bool operator==(const PrintOptionsAsked&) const = default;
+  };
+  std::vector<PrintOptionsAsked> printOptionsShown;
 
  private:
   std::deque<bool> labelAnswers_;

@@ -149,6 +149,17 @@ bool Contains(std::string_view text, std::string_view searched, CompareMethod me
          searched.empty();
 }
 
+std::string UpperCase(std::string_view text) {
+  std::string upper(text);
+  for (char& c : upper) {
+    const auto* const capital = std::find_if(kFold.begin(), kFold.end(), [&](const char& folded) {
+      return folded == c && static_cast<char>(&folded - kFold.data()) != c;
+    });
+    if (capital != kFold.end()) c = static_cast<char>(capital - kFold.begin());
+  }
+  return upper;
+}
+
 bool IsValidNameChar(int code) {
   return (code >= '0' && code <= '9') || (code >= 'A' && code <= 'Z') ||
          (code >= 'a' && code <= 'z') || code == '-' || code == '_' || code == 8;

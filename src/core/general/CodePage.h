@@ -27,6 +27,9 @@ namespace parlate {
 /// A text without its case, byte by byte.
 [[nodiscard]] std::string FoldCase(std::string_view text);
 
+/// A text in capitals, as far as the code page has them.
+[[nodiscard]] std::string UpperCase(std::string_view text);
+
 /// Whether two texts are equal without regard to case.
 [[nodiscard]] bool EqualNoCase(std::string_view left, std::string_view right);
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 
 namespace parlate {
@@ -40,6 +41,17 @@ class FileDialogs {
   virtual ~FileDialogs() = default;
   virtual std::string ShowOpen(const FileDialog& dialog) = 0;
   virtual std::string ShowSave(const FileDialog& dialog) = 0;
+};
+
+class PrintSurface;
+
+/// The one door to the system's printers.
+class Printers {
+ public:
+  virtual ~Printers() = default;
+  /// Lets the user choose a printer; nothing if the user cancelled. The choices of printing to a
+  /// file, of a selection and of page numbers are not offered.
+  virtual std::unique_ptr<PrintSurface> ShowPrinterDialog() = 0;
 };
 
 /// The progress dialog of a long walk. It stays until it is closed, also when the walk fails.

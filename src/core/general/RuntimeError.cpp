@@ -39,6 +39,8 @@ std::string ErrorDescription(int number) {
       return "Object variable or With block variable not set";
     case RuntimeError::kNoSuchOperation:
       return "Object doesn't support this property or method";
+    case RuntimeError::kPrinterError:
+      return "Printer error";
     case RuntimeError::kKeyAlreadyAssociated:
       return "This key is already associated with an element of this collection";
     default:

@@ -27,6 +27,7 @@ class RuntimeError : public std::exception {
   static constexpr int kObjectVariableNotSet = 91;
   static constexpr int kNoSuchOperation = 438;
   static constexpr int kKeyAlreadyAssociated = 457;
+  static constexpr int kPrinterError = 482;
 
   /// The description is the classic text of the number.
   explicit RuntimeError(int number);

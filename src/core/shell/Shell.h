@@ -19,6 +19,8 @@
 
 namespace parlate {
 
+class PrintPages;
+
 /// The window without the window: the one open file, the selection, the tree and the event list as
 /// plain nodes and rows, the clipboard, and every command that works on them. A view shows it.
 ///
@@ -31,6 +33,7 @@ class Shell final : public ConversationDirectory, public ConversationTreeOrder {
     MessageBoxes& messages;
     FileDialogs& dialogs;
     ProgressDisplay& progress;
+    Printers* printers = nullptr;  ///< Without it the print commands do nothing.
   };
 
   Shell(ShellView& view, const Doors& doors);
@@ -78,6 +81,10 @@ class Shell final : public ConversationDirectory, public ConversationTreeOrder {
   /// Writes the open file to `folder` as best as can be done and returns the path; empty with no
   /// file open or when nothing could be written.
   std::string WriteRecoveryFile(const std::string& folder);
+
+  // Printing.
+  /// Prints all conversations or the selected one, after the options unless they are skipped.
+  void PrintConversations(Boolean bPrintAll, Boolean bSkipOptions);
 
   // Commands and captions.
   void UpdateCommandStates() { view_.CommandStatesChanged(); }
@@ -194,6 +201,9 @@ class Shell final : public ConversationDirectory, public ConversationTreeOrder {
   Boolean SaveConFileAs();
   Boolean PromptSaveChanges();
   void AddToLastFiles(const std::string& path);
+  void PrintOn(PrintSurface& surface, const PrintChoice& choice);
+  void PrintListing(PrintPages& pages) const;
+  void PrintEachConversation(PrintPages& pages, Boolean bDetailedHeader);
   void TreeViewRemoveConversation(const Conversation& con, std::int32_t oldNPCID);
   /// Shows the events of the selected conversation anew; the selected row stays.
   void RefreshEventsList();

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -9,6 +10,12 @@
 #include "model/Conversation.h"
 
 namespace parlate {
+
+/// What the user chose to print.
+struct PrintChoice {
+  bool bPrintAll = false;  ///< Every conversation, or only the selected one.
+  bool bDetailedHeader = true;
+};
 
 /// What the shell asks of the window that shows it. A test answers in its place.
 class ShellView {
@@ -43,6 +50,8 @@ class ShellView {
   /// Lets the user pick flags that the list does not hold and puts them in it, without expiration.
   /// False if the user cancelled.
   virtual bool PickFlags(FlagList& flagRefs) = 0;
+  /// Shows the print options modal; nothing if the user cancelled.
+  virtual std::optional<PrintChoice> ShowPrintOptions(bool selectedThere, bool bPrintAll) = 0;
 };
 
 }  // namespace parlate
