@@ -52,17 +52,19 @@ class TablePages {
 /// Asks for a printer, prints, and says how it went; a cancel ends it without a word.
 void RunOnPrinter(const PrintingDoors& doors, const std::string& title, const std::string& what,
                   const std::function<void(PrintSurface&)>& print) {
-  const std::unique_ptr<PrintSurface> surface = doors.printers.ShowPrinterDialog();
-  if (!surface) return;
+  std::string deviceName;
   try {
+    const std::unique_ptr<PrintSurface> surface = doors.printers.ShowPrinterDialog();
+    if (!surface) return;
     print(*surface);
     surface->EndDoc();
+    deviceName = surface->DeviceName();
   } catch (const RuntimeError&) {
     doors.messages.Show({"Error Printing!", "An Error Occurred While Printing.",
                          MessageBox::Icon::Critical, MessageBox::Buttons::Ok});
     return;
   }
-  doors.messages.Show({title, what + " Printed to " + surface->DeviceName() + ".",
+  doors.messages.Show({title, what + " Printed to " + deviceName + ".",
                        MessageBox::Icon::Information, MessageBox::Buttons::Ok});
 }
 

@@ -21,10 +21,8 @@ void Shell::PrintConversations(Boolean bPrintAll, Boolean bSkipOptions) {
     choice = *chosen;
   }
   if (!choice.bPrintAll && !selectedCon_) return;
-  const std::unique_ptr<PrintSurface> surface = doors_.printers->ShowPrinterDialog();
-  if (!surface) return;
   try {
-    PrintOn(*surface, choice);
+    if (const auto surface = doors_.printers->ShowPrinterDialog()) PrintOn(*surface, choice);
   } catch (const RuntimeError& error) {
     // A printer that fails takes nothing from the file: there is nothing to rescue.
     if (error.Number() != RuntimeError::kPrinterError) throw;

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <memory>
+
+#include "general/Prompts.h"
+#include "general/PrintSurface.h"
+
+class QPrinter;
+
+namespace parlate {
+
+/// The system's printers behind its print dialog. Printing to a file is offered only where there is
+/// no printer: it makes a PDF.
+class QtPrinters final : public Printers {
+ public:
+  QtPrinters();
+  ~QtPrinters() override;
+  std::unique_ptr<PrintSurface> ShowPrinterDialog() override;
+
+ private:
+  std::unique_ptr<QPrinter> printer_;  ///< Keeps what was chosen for the next time.
+};
+
+}  // namespace parlate
