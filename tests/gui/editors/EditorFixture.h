@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPushButton>
 #include <functional>
 #include <memory>
 #include <string>
@@ -8,6 +9,8 @@
 #include "editors/panels/EventPanel.h"
 #include "mainwindow/WindowFixture.h"
 #include "platform/Modal.h"
+#include "platform/QtComboBox.h"
+#include "platform/QtListBox.h"
 #include "support/TestWorkspace.h"
 
 namespace parlate::testing_support {

@@ -489,7 +489,7 @@ TEST_F(FrmChoiceEditTest, OneDialogServesOneChoiceAfterAnother) {
 }
 
 TEST_F(FrmChoiceEditTest, TabGoesThroughAPageFromTopToBottom) {
-  Edit(Yes(), [](QWidget& form) {
+  Edit(Yes(), [](QWidget& /*form*/) {
     for (const char* name : {"cboJumpLabel", "chkShowChoice", "txtAudioFile", "cmdSpeechAudio",
                              "cmdPlayAudio", "cmdOK", "cmdCancel"}) {
       QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);

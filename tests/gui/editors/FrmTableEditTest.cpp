@@ -5,6 +5,7 @@
 
 #include "editors/EditorFixture.h"
 #include "editors/frmTableEdit.h"
+#include "model/TableCombos.h"
 #include "support/ShellFixture.h"
 
 namespace parlate {
