@@ -33,6 +33,13 @@ class EditorTest : public WindowTest {
     return program_.shell().GetConFile()->Conversations.Share(key);
   }
 
+  void SaveInSpiteOfMissingLabels() {
+    WhenFormShows("frmMissingLabels", [](QWidget& form) {
+      QTest::mouseClick(&ControlNamed<QWidget>(form, "cmdYes"), Qt::LeftButton);
+    });
+    program_.Press(Qt::Key_S, Qt::ControlModifier);
+  }
+
   std::string path_;
   RunningProgram program_;
   RecordingProgress progress_;
