@@ -34,8 +34,8 @@ void WavePlayer::Open(const std::string& path) {
   // Queued: whoever hears of the end closes the player, which must be out of its own signal then.
   connect(
       player_.get(), &QMediaPlayer::mediaStatusChanged, this,
-      [this](QMediaPlayer::MediaStatus status) {
-        if (status == QMediaPlayer::EndOfMedia && player_ != nullptr) emit done();
+      [this, player = player_.get()](QMediaPlayer::MediaStatus status) {
+        if (status == QMediaPlayer::EndOfMedia && player == player_.get()) emit done();
       },
       Qt::QueuedConnection);
   player_->setSource(QUrl::fromLocalFile(file));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPushButton>
 #include <functional>
 #include <memory>
 #include <string>
@@ -8,6 +9,8 @@
 #include "editors/panels/EventPanel.h"
 #include "mainwindow/WindowFixture.h"
 #include "platform/Modal.h"
+#include "platform/QtComboBox.h"
+#include "platform/QtListBox.h"
 #include "support/TestWorkspace.h"
 
 namespace parlate::testing_support {
@@ -28,6 +31,13 @@ class EditorTest : public WindowTest {
   [[nodiscard]] const std::vector<MessageBox>& Boxes() const { return program_.messages.shown; }
   [[nodiscard]] const std::shared_ptr<Conversation>& ConOf(std::int32_t key) {
     return program_.shell().GetConFile()->Conversations.Share(key);
+  }
+
+  void SaveInSpiteOfMissingLabels() {
+    WhenFormShows("frmMissingLabels", [](QWidget& form) {
+      QTest::mouseClick(&ControlNamed<QWidget>(form, "cmdYes"), Qt::LeftButton);
+    });
+    program_.Press(Qt::Key_S, Qt::ControlModifier);
   }
 
   std::string path_;

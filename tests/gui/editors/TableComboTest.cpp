@@ -33,7 +33,9 @@ class TableComboTest : public ::testing::Test {
 
   void Type(const char* text) { QTest::keyClicks(combo_.lineEdit(), text); }
   void Leave() {
-    other_.setFocus(Qt::TabFocusReason);
+    // The rows that begin with the text are offered in a popup, which has the keys then.
+    QWidget* popup = QApplication::activePopupWidget();
+    QTest::keyClick(popup != nullptr ? popup : &combo_, Qt::Key_Tab);
     QTest::qWait(20);
   }
 
@@ -69,7 +71,7 @@ TEST_F(TableComboTest, AnUnknownNameBecomesARowOnYes) {
   EXPECT_EQ(GetComboItemID(combo_), 5);
   EXPECT_EQ(combo_.Text(), "swim");
   EXPECT_EQ(GetTable(kSkillTable)->Count(), 3U);
-  EXPECT_TRUE(other_.hasFocus());
+  EXPECT_TRUE(button_.hasFocus());
 }
 
 TEST_F(TableComboTest, OnNoTheTypedTextStandsSelectedInTheCombo) {
@@ -86,7 +88,7 @@ TEST_F(TableComboTest, OnNoTheTypedTextStandsSelectedInTheCombo) {
 TEST_F(TableComboTest, AnEmptyComboIsLeftWithoutAQuestion) {
   Leave();
   EXPECT_TRUE(space_.messages.shown.empty());
-  EXPECT_TRUE(other_.hasFocus());
+  EXPECT_TRUE(button_.hasFocus());
 }
 
 TEST_F(TableComboTest, AComboThatWasHiddenMeanwhileAsksNothing) {

@@ -74,8 +74,6 @@ TEST_F(QtComboBoxTest, AListOnlyComboTakesNothingTyped) {
   EXPECT_EQ(combo_.Text(), "");
   EXPECT_EQ(combo_.lineEdit(), nullptr);
   combo_.SetFocus();
-  QTest::keyClick(&combo_, Qt::Key_X);
-  EXPECT_EQ(combo_.ListIndex(), -1);
   QTest::keyClick(&combo_, Qt::Key_M);
   EXPECT_EQ(combo_.ListIndex(), 1) << "a letter picks the row that begins with it";
   EXPECT_EQ(combo_.Text(), "Master");
