@@ -12,6 +12,7 @@ struct EditorDoors {
   MessageBoxes& messages;
   FileDialogs& dialogs;
   ProgressDisplay& progress;
+  Printers* printers = nullptr;  ///< Without it the print buttons do nothing.
 };
 
 }  // namespace parlate

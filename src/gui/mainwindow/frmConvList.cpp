@@ -38,12 +38,14 @@ QRect OnScreen(QRect wanted) {
 
 }  // namespace
 
-frmConvList::frmConvList(MessageBoxes& messages, FileDialogs& dialogs, SettingsStore& settings)
+frmConvList::frmConvList(MessageBoxes& messages, FileDialogs& dialogs, SettingsStore& settings,
+                         Printers* printers)
     : messages_(messages),
       dialogs_(dialogs),
       settings_(settings),
+      printers_(printers),
       progress_(this),
-      shell_(*this, {messages_, dialogs_, progress_}),
+      shell_(*this, {messages_, dialogs_, progress_, printers_}),
       treeModel_(shell_.tvCons()),
       tvCons_(treeModel_, &client_),
       lstEvents_(shell_.lstEvents(), &client_),

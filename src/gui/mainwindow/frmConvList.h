@@ -37,7 +37,9 @@ class frmConvList : public QMainWindow,
 
  public:
   /// The doors to the user and the store of the settings; a test hands in its own.
-  frmConvList(MessageBoxes& messages, FileDialogs& dialogs, SettingsStore& settings);
+  /// Without printers the print commands do nothing.
+  frmConvList(MessageBoxes& messages, FileDialogs& dialogs, SettingsStore& settings,
+              Printers* printers = nullptr);
   ~frmConvList() override;
 
   /// Everything up to the first sight of the window. False if the user, asked for a name at the
@@ -80,6 +82,7 @@ class frmConvList : public QMainWindow,
   int ShowProperties(Conversation& con, int tabIndex) override;
   void ShowFileProperties() override;
   bool PickFlags(FlagList& flagRefs) override;
+  std::optional<PrintChoice> ShowPrintOptions(bool selectedThere, bool bPrintAll) override;
 
   // TableEditor
   std::int32_t EditTableDialog(std::int32_t tableType) override;
@@ -96,6 +99,7 @@ class frmConvList : public QMainWindow,
   void BuildToolbar();
   void BuildPanes();
   void ConnectCommands();
+  void ConnectPrintingCommands();
   void ConnectTableCommands();
   void ConnectInterchangeCommands();
   void ConnectTree();
@@ -129,11 +133,12 @@ class frmConvList : public QMainWindow,
   void EndSplitterDrag();
 
   [[nodiscard]] int WidthInTwips() const;
-  [[nodiscard]] EditorDoors Doors() { return {shell_, messages_, dialogs_, progress_}; }
+  [[nodiscard]] EditorDoors Doors() { return {shell_, messages_, dialogs_, progress_, printers_}; }
 
   MessageBoxes& messages_;
   FileDialogs& dialogs_;
   SettingsStore& settings_;
+  Printers* printers_;
   frmProgress progress_;
   Shell shell_;
   ConversationTreeModel treeModel_;

@@ -8,6 +8,7 @@
 #include "platform/IniSettingsStore.h"
 #include "platform/QtFileDialogs.h"
 #include "platform/QtMessageBoxes.h"
+#include "platform/QtPrinters.h"
 
 namespace {
 
@@ -26,7 +27,8 @@ int main(int argc, char** argv) {
   parlate::QtMessageBoxes messages;
   parlate::QtFileDialogs dialogs;
   parlate::IniSettingsStore settings;
-  parlate::frmConvList window(messages, dialogs, settings);
+  parlate::QtPrinters printers;
+  parlate::frmConvList window(messages, dialogs, settings, &printers);
   application.Protect(window.shell(), messages);
   return application.Run([&] {
     if (!window.InitMainWindow()) return false;

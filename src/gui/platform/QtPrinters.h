@@ -2,8 +2,8 @@
 
 #include <memory>
 
-#include "general/Prompts.h"
 #include "general/PrintSurface.h"
+#include "general/Prompts.h"
 
 class QPrinter;
 

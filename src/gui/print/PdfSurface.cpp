@@ -18,7 +18,9 @@ namespace {
 /// Hands the bytes of the toolkit to a sink, and remembers a failure that the toolkit drops.
 class SinkDevice final : public QIODevice {
  public:
-  explicit SinkDevice(std::shared_ptr<ByteSink> sink) : sink_(std::move(sink)) { open(QIODevice::WriteOnly); }
+  explicit SinkDevice(std::shared_ptr<ByteSink> sink) : sink_(std::move(sink)) {
+    open(QIODevice::WriteOnly);
+  }
 
   [[nodiscard]] bool Failed() const { return failed_; }
 
@@ -97,7 +99,8 @@ class PdfSurface final : private PdfDevice, public QtPrintSurface {
 
 }  // namespace
 
-std::unique_ptr<PrintSurface> MakePdfSurface(std::shared_ptr<ByteSink> out, const std::string& deviceName) {
+std::unique_ptr<PrintSurface> MakePdfSurface(std::shared_ptr<ByteSink> out,
+                                             const std::string& deviceName) {
   return std::make_unique<PdfSurface>(std::move(out), deviceName);
 }
 
