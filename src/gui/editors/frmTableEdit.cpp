@@ -202,9 +202,9 @@ void frmTableEdit::DeleteUnused() {
            MessageBox::Icon::Question, MessageBox::Buttons::YesNo);
   if (answer != Answer::Yes) return;
   // Not the dialog's own way to hide, which would end it.
-  QWidget::setVisible(false);
+  QWidget::setVisible(false);  // NOLINT(bugprone-parent-virtual-call)
   const int removed = RemoveUnusedRows();
-  QWidget::setVisible(true);
+  QWidget::setVisible(true);  // NOLINT(bugprone-parent-virtual-call)
   activateWindow();
   RefreshTableButtons();
   Show("Table Cleaned", std::to_string(removed) + " table entries were removed.",
