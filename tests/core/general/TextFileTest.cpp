@@ -174,5 +174,32 @@ TEST(TextWriterTest, EveryLineEndsWithCarriageReturnAndLineFeed) {
   EXPECT_EQ(sink.Bytes(), "abc\r\n\r\ntwo\nlines\r\r\n");
 }
 
+TEST(TextWriterTest, LinesOfAnyLengthComeOutInOrder) {
+  MemorySink sink;
+  std::string expected;
+  {
+    TextWriter writer(sink);
+    for (std::size_t length : {kWindow - 4, std::size_t{1}, kWindow - 2, kWindow - 1, 3 * kWindow,
+                               std::size_t{0}, std::size_t{5}}) {
+      const std::string text(length, static_cast<char>('a' + length % 26));
+      writer.WriteLine(text, "-", text);
+      expected += text + "-" + text + "\r\n";
+    }
+  }
+  EXPECT_TRUE(sink.Bytes() == expected);
+}
+
+TEST(TextWriterTest, AFullDiskIsRaisedOnceAndNotAgainAtTheEnd) {
+  class FullDisk final : public ByteSink {
+   public:
+    void Write(const char*, std::size_t) override { throw RuntimeError(RuntimeError::kDiskFull); }
+  };
+  FullDisk disk;
+  TextWriter writer(disk);
+  writer.WriteLine("a");
+  EXPECT_THROW(writer.Flush(), RuntimeError);
+  writer.WriteLine("b");
+}
+
 }  // namespace
 }  // namespace parlate
