@@ -40,6 +40,7 @@ class HostedFile final : public ConversationDirectory,
                                               const std::string& conName) const override;
   void TreeViewAddConversation(const std::shared_ptr<Conversation>& con, Boolean bSelect) override;
   void WalkConversations(const std::function<void(std::int32_t)>& visit) const override;
+  [[nodiscard]] FileHost Host() { return {*this, *this, *this}; }
 
  private:
   Answer Show(const MessageBox& box) override;
@@ -50,8 +51,6 @@ class HostedFile final : public ConversationDirectory,
 
   void LoadFrom(ByteSource& source);
   void SaveTo(ByteSink& sink);
-  [[nodiscard]] FileHost Host() { return {*this, *this, *this}; }
-
   WorkspaceScope scope_;
 };
 

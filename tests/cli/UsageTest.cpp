@@ -47,12 +47,19 @@ TEST_P(Help, NamesWhatTheCommandTakes) {
 
 INSTANTIATE_TEST_SUITE_P(
     OfEachCommand, Help,
-    testing::Values(Helped{"", {"dump", "list", "check", "convert", "--version"}},
+    testing::Values(Helped{"",
+                           {"dump", "list", "check", "convert", "export", "import", "audio",
+                            "stats", "paste", "--version"}},
                     Helped{"dump", {"FILE", "JSON"}},
                     Helped{"list",
                            {"FILE", "--json", "--no-expand", "--no-audio-files", "--no-highlight"}},
                     Helped{"check", {"FILE", "--json"}},
-                    Helped{"convert", {"IN", "OUT", "--user", "--now"}}),
+                    Helped{"convert", {"IN", "OUT", "--user", "--now"}},
+                    Helped{"export", {"IN", "OUT", "--mode", "filenames", "--no-comments"}},
+                    Helped{"import", {"IN", "TEXT", "OUT", "--user", "--now", "REASON"}},
+                    Helped{"audio", {"IN", "OUT", "--user", "--now", "replaced"}},
+                    Helped{"stats", {"FILE", "--json"}},
+                    Helped{"paste", {"FROM", "KEY", "INTO", "OUT", "--user", "--now"}}),
     [](const auto& tested) {
       return tested.param.command.empty() ? std::string("tool") : tested.param.command;
     });
@@ -74,6 +81,11 @@ TEST(Usage, ErrorsAreOneLineAndTwo) {
                                                        {"convert", "a"},
                                                        {"convert", "a", "b", "--now"},
                                                        {"convert", "a", "b", "--now", "soon"},
+                                                       {"export", "a"},
+                                                       {"import", "a", "b"},
+                                                       {"audio", "a"},
+                                                       {"stats"},
+                                                       {"paste", "a", "0", "b"},
                                                        {"--unknown"}};
   for (const auto& arguments : wrong) {
     const Ran ran = RunTool(arguments);
@@ -86,7 +98,9 @@ class EachCommand : public testing::TestWithParam<std::string> {
  protected:
   Ran RunOn(const std::string& path) {
     std::vector<std::string> arguments = {GetParam(), path};
-    if (GetParam() == "convert") arguments.push_back(folder_.File("out.con"));
+    for (const char* writes : {"convert", "export", "audio"}) {
+      if (GetParam() == writes) arguments.push_back(folder_.File("out.con"));
+    }
     return RunTool(arguments);
   }
   Ran RunOnBytes(const std::string& bytes) {
@@ -177,7 +191,8 @@ TEST_P(EachCommand, FailsForAConversationWhoseOwnerHasNoRow) {
 }
 
 INSTANTIATE_TEST_SUITE_P(OfTheTool, EachCommand,
-                         testing::Values("dump", "list", "check", "convert"),
+                         testing::Values("dump", "list", "check", "convert", "export", "audio",
+                                         "stats"),
                          [](const auto& tested) { return tested.param; });
 
 /// A stream that takes nothing, as a closed pipe or a full disk.
@@ -186,7 +201,7 @@ class ClosedBuffer final : public std::streambuf {};
 TEST(Output, ThatCannotBeWrittenIsAFailure) {
   const TemporaryFolder folder;
   WriteBytes(folder.File("in.con"), testing_support::SampleFile(28));
-  for (const char* command : {"dump", "list", "check"}) {
+  for (const char* command : {"dump", "list", "check", "stats"}) {
     ClosedBuffer closed;
     std::ostream out(&closed);
     std::ostringstream err;

@@ -1,6 +1,7 @@
 #include "general/TextFile.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace parlate {
 
@@ -16,6 +17,24 @@ void TrimBlanks(std::string& text) {
 }
 
 }  // namespace
+
+TextWriter::TextWriter(ByteSink& sink) : sink_(sink), buffer_(kWindowSize) {}
+
+TextWriter::~TextWriter() {
+  // The error that ended the writing is on its way already; a second one must not join it.
+  ResumeNext([this] { Flush(); });
+}
+
+void TextWriter::Flush() { WriteAtOnce({buffer_.data(), std::exchange(used_, 0)}); }
+
+bool TextWriter::MakeRoom(std::size_t size) {
+  Flush();
+  return size <= buffer_.size();
+}
+
+void TextWriter::WriteAtOnce(std::string_view part) {
+  if (!part.empty()) sink_.Write(part.data(), part.size());
+}
 
 TextReader::TextReader(ByteSource& source, std::size_t longestLine)
     : source_(source), longestLine_(longestLine), window_(kWindowSize) {}

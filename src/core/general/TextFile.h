@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -16,20 +17,42 @@ namespace parlate {
 /// What was written before a failure reaches the sink when the writer ends.
 class TextWriter {
  public:
-  explicit TextWriter(ByteSink& sink) : bytes_(sink) {}
+  explicit TextWriter(ByteSink& sink);
+  ~TextWriter();
+  TextWriter(const TextWriter&) = delete;
+  TextWriter& operator=(const TextWriter&) = delete;
 
   /// One line of several parts, which are texts. A line break within a part ends a line as well.
   template <class... Parts>
   void WriteLine(const Parts&... parts) {
-    (bytes_.WriteBytes(parts), ...);
-    bytes_.WriteBytes("\r\n");
+    const std::size_t size = (std::string_view(parts).size() + ... + kLineEnd.size());
+    if (size > buffer_.size() - used_ && !MakeRoom(size)) {
+      (WriteAtOnce(parts), ...);
+      WriteAtOnce(kLineEnd);
+      return;
+    }
+    (Put(parts), ...);
+    Put(kLineEnd);
   }
 
   /// Hands everything to the sink.
-  void Flush() { bytes_.Flush(); }
+  void Flush();
 
  private:
-  BinaryWriter bytes_;
+  static constexpr std::string_view kLineEnd = "\r\n";
+
+  /// False if no buffer could hold as much.
+  bool MakeRoom(std::size_t size);
+  void WriteAtOnce(std::string_view part);
+
+  void Put(std::string_view part) {
+    if (!part.empty()) std::memcpy(buffer_.data() + used_, part.data(), part.size());
+    used_ += part.size();
+  }
+
+  ByteSink& sink_;
+  std::vector<char> buffer_;
+  std::size_t used_ = 0;
 };
 
 /// Reads lines of text. A line ends with carriage return and line feed, with either of the two

@@ -133,5 +133,13 @@ TEST_F(QtFileDialogsTest, AnExistingFileIsTakenOnlyWhenTheUserAgrees) {
   EXPECT_EQ(ReadBytes(File("Mission1.con")), "old");
 }
 
+TEST_F(QtFileDialogsTest, AnExistingFileThatIsToBeReadIsTakenWithoutAQuestion) {
+  WriteBytes(File("Lines.txt"), "old");
+  const WhenModal modal([](QWidget& window) { EnterName(window, "Lines.txt"); });
+  FileDialog dialog = Dialog();
+  dialog.asksToReplace = false;
+  EXPECT_EQ(dialogs_.ShowSave(dialog), File("Lines.txt"));
+}
+
 }  // namespace
 }  // namespace parlate

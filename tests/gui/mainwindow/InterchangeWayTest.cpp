@@ -1,0 +1,119 @@
+// Text out through the dialogs, corrected by a program, and back in.
+
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "general/Paths.h"
+#include "mainwindow/WindowFixture.h"
+#include "support/ConversationScript.h"
+
+namespace parlate {
+namespace {
+
+using namespace testing_support;
+
+void Replace(std::string& text, const std::string& from, const std::string& to) {
+  const std::size_t at = text.find(from);
+  ASSERT_NE(at, std::string::npos) << from;
+  text.replace(at, from.size(), to);
+}
+
+class InterchangeWay : public WindowTest {
+ protected:
+  std::string PutHarbour() {
+    WriteBytes(folder.File("harbour.con"), HarbourFile());
+    return folder.File("harbour.con");
+  }
+  /// Chooses a command and starts its dialog with a file name that is typed.
+  static void Run(RunningProgram& program, const char* command, const char* form,
+                  const std::string& path) {
+    WhenFormShows(form, [path](QWidget& dialog) {
+      QTest::keyClicks(dialog.findChild<QLineEdit*>("txtFilename"), QString::fromStdString(path));
+      QTest::mouseClick(dialog.findChild<QPushButton*>("cmdOK"), Qt::LeftButton);
+    });
+    program.Choose(command);
+  }
+  static void GoOnSaving() {
+    WhenFormShows("frmMissingLabels", [](QWidget& form) {
+      QTest::mouseClick(form.findChild<QPushButton*>("cmdYes"), Qt::LeftButton);
+    });
+  }
+};
+
+TEST_F(InterchangeWay, ExportedTextIsCorrectedImportedAndSaved) {
+  const std::string path = PutHarbour();
+  const std::string textPath = folder.File("text.txt");
+  {
+    RunningProgram program;
+    ASSERT_TRUE(program.Start(path));
+    program.ClickNode("C0");
+    Run(program, "mnuFileExport", "frmExport", textPath);
+    EXPECT_TRUE(program.messages.shown.empty());
+
+    std::string text = ReadBytes(textPath);
+    Replace(text, "Hello\r\n", "Good evening\r\n");
+    Replace(text, "A comment\r\n", "A remark\r\n");
+    WriteBytes(textPath, text);
+
+    Run(program, "mnuFileImport", "frmImport", textPath);
+    EXPECT_EQ(program.Events().Rows().Row(0).subText, "Good evening") << "the window shows it";
+    GoOnSaving();
+    program.Choose("mnuFileSave");
+    EXPECT_TRUE(program.Close());
+  }
+  // The same file, written down with the new texts, with the stamp of the save.
+  RunningProgram again;
+  ASSERT_TRUE(again.Start(path));
+  const ConversationFile& file = *again.shell().GetConFile();
+  const Conversation& greeting = file.Conversations.At(0);
+  EXPECT_EQ(greeting.events.At(1).As<EventSpeech>()->speech, "Good evening");
+  EXPECT_EQ(greeting.events.At(1).As<EventSpeech>()->audioFile, "hello.mp3");
+  EXPECT_EQ(greeting.events.At(2).As<EventComment>()->commentText, "A remark");
+  EXPECT_EQ(greeting.events.At(3).As<EventSpeech>()->speech, "Hi");
+  EXPECT_EQ(greeting.LastUpdatedBy, "ben");
+  EXPECT_EQ(file.LastUpdatedBy, "Tester");
+  EXPECT_TRUE(again.Close());
+}
+
+TEST_F(InterchangeWay, GenerateNamesTheFilesAndTheRowsFollow) {
+  const std::string path = PutHarbour();
+  RunningProgram program;
+  ASSERT_TRUE(program.Start(path));
+  program.ClickNode("C0");
+  EXPECT_EQ(program.Events().Rows().Row(2).color, 0xFFFFC0) << "no audio";
+  program.Choose("mnuFileGenerateAudio");
+  EXPECT_EQ(program.Events().Rows().Row(2).color, -1);
+  GoOnSaving();
+  program.Choose("mnuFileSave");
+  EXPECT_TRUE(program.Close());
+  RunningProgram again;
+  ASSERT_TRUE(again.Start(path));
+  EXPECT_EQ(
+      again.shell().GetConFile()->Conversations.At(0).events.At(3).As<EventSpeech>()->audioFile,
+      "Audio07\\Zoe\\greeting\\Alex01.mp3");
+  EXPECT_TRUE(again.Close());
+}
+
+TEST_F(InterchangeWay, AReadOnlyFileCanBeExportedButNotImportedInto) {
+  const std::string path = PutHarbour();
+  WriteBytes(folder.File("harbour.lck"), FileBytes(28).Str("Somebody").Bytes());
+  RunningProgram program;
+  program.messages.Expect(Answer::Yes);
+  ASSERT_TRUE(program.Start(path));
+  EXPECT_FALSE(program.Enabled("mnuFileImport"));
+  EXPECT_TRUE(program.Enabled("mnuFileExport"));
+  EXPECT_TRUE(program.Enabled("mnuFileGenerateAudio"));
+  EXPECT_TRUE(program.Close());
+}
+
+TEST_F(InterchangeWay, WithoutConversationsThereIsNothingToExport) {
+  RunningProgram program;
+  ASSERT_TRUE(program.Start());
+  for (const char* command : {"mnuFileImport", "mnuFileExport", "mnuFileGenerateAudio"}) {
+    EXPECT_FALSE(program.Enabled(command)) << command;
+  }
+  EXPECT_TRUE(program.Close());
+}
+
+}  // namespace
+}  // namespace parlate
