@@ -1,14 +1,52 @@
 #include "platform/TextField.h"
 
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QSignalBlocker>
+#include <algorithm>
+#include <iterator>
 #include <limits>
 
+#include "general/CodePage.h"
 #include "platform/CodePageInput.h"
 #include "widgets/CodePageText.h"
 
 namespace parlate {
+
+namespace {
+
+/// Control characters are no typing: they come with Tab, Return, Delete and the shortcuts.
+bool FitsInName(QChar character) {
+  const bool control = character < u' ' || character == QChar(0x7F);
+  return control || IsValidNameChar(character.unicode());
+}
+
+QString NameLettersOf(const QString& typed) {
+  QString letters;
+  std::copy_if(typed.begin(), typed.end(), std::back_inserter(letters), FitsInName);
+  return letters;
+}
+
+class NameKeyFilter final : public QObject {
+ public:
+  using QObject::QObject;
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::KeyPress) {
+      const QString typed = static_cast<QKeyEvent*>(event)->text();
+      if (NameLettersOf(typed) != typed) return true;
+    }
+    if (event->type() == QEvent::InputMethod) {
+      auto* input = static_cast<QInputMethodEvent*>(event);
+      input->setCommitString(NameLettersOf(input->commitString()), input->replacementStart(),
+                             input->replacementLength());
+    }
+    return QObject::eventFilter(watched, event);
+  }
+};
+
+}  // namespace
 
 QtTextBox::QtTextBox(QWidget* parent) : QPlainTextEdit(parent) {
   setTabChangesFocus(true);
@@ -49,5 +87,7 @@ void SetUpTextLine(QLineEdit& line) {
   KeepToCodePage(line);
   line.setMaxLength(std::numeric_limits<int>::max());
 }
+
+void FilterNameKeys(QLineEdit& line) { line.installEventFilter(new NameKeyFilter(&line)); }
 
 }  // namespace parlate

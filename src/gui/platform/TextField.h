@@ -34,4 +34,7 @@ class QtTextBox final : public QPlainTextEdit {
 /// Makes a line fit for any text of a file: kept to the code page, and of any length.
 void SetUpTextLine(QLineEdit& line);
 
+/// Drops every key press that would type a character which no name has. What is pasted stays.
+void FilterNameKeys(QLineEdit& line);
+
 }  // namespace parlate
