@@ -64,6 +64,19 @@ TEST_F(CameraPanelTest, EachOptionEnablesWhatBelongsToIt) {
   EXPECT_TRUE(IsEnabled("cboCameraPosition"));
 }
 
+TEST_F(CameraPanelTest, TheButtonShowsTheCameraPropertiesModalAndWithoutOwner) {
+  Click("optCameraSpecific");
+  const WhenModal user([](QWidget& dialog) {
+    EXPECT_EQ(dialog.objectName(), "frmCameraProperties");
+    EXPECT_TRUE(dialog.isModal());
+    EXPECT_EQ(dialog.parentWidget(), nullptr);
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+  });
+  Focus(Button("cmdEditCamera"));
+  QTest::keyClick(&Button("cmdEditCamera"), Qt::Key_Space);
+  EXPECT_TRUE(IsSet("optCameraSpecific"));
+}
+
 TEST_F(CameraPanelTest, APredefinedPositionHasToBeChosenAndTheOthersNeedNothing) {
   EXPECT_FALSE(IsComplete());
   changed_.clear();
