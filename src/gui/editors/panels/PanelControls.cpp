@@ -22,7 +22,7 @@ QGridLayout* FieldRows() {
 void AddFieldRow(QGridLayout& rows, QLabel& label, QWidget& field, QWidget* button) {
   const int row = rows.rowCount();
   rows.addWidget(&label, row, 0);
-  rows.addWidget(&field, row, 1);
+  rows.addWidget(&field, row, 1, 1, button == nullptr ? 2 : 1);
   if (button != nullptr) rows.addWidget(button, row, 2);
 }
 
