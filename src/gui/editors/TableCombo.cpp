@@ -28,6 +28,8 @@ TableCombo::TableCombo(QtComboBox& combo, std::int32_t tableType, QAbstractButto
   });
 }
 
+bool TableCombo::IsValid() const { return ValidateComboEntry(combo_, tableType_, true); }
+
 bool TableCombo::eventFilter(QObject* watched, QEvent* event) {
   const bool left = watched == &combo_ && event->type() == QEvent::FocusOut;
   if (left && !IsForAWhile(static_cast<QFocusEvent*>(event)->reason())) {

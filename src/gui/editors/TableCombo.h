@@ -21,6 +21,9 @@ class TableCombo : public QObject {
   TableCombo(QtComboBox& combo, std::int32_t tableType, QAbstractButton& editButton,
              std::function<void()> changed);
 
+  /// Whether the text is that of a row, which is selected then. Nobody is asked.
+  [[nodiscard]] bool IsValid() const;
+
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "editors/EditorDoors.h"
+#include "general/RuntimeError.h"
 #include "model/Controls.h"
 #include "model/Conversation.h"
 
@@ -35,6 +36,8 @@ class PanelHost {
   [[nodiscard]] virtual bool IsEditorVisible() const = 0;
   [[nodiscard]] virtual SpeakerPair LastSpeakers() const = 0;
   [[nodiscard]] virtual EditorDoors Doors() = 0;
+  /// Empties the count of the panel that transfers objects.
+  virtual void ClearTransferCount() {}
 };
 
 /// One panel of the event editor: the controls of one event type. The editor calls the steps in
@@ -70,6 +73,20 @@ class EventPanel : public QGroupBox {
 
  protected:
   [[nodiscard]] PanelHost& Host() const { return host_; }
+
+  /// The object of an item as its class; an item without one is given a new one.
+  template <class Event>
+  [[nodiscard]] Event& ObjectOf(EventItem& event) const {
+    if (event.eventObject() == nullptr) event.CreateEventObject(eventType_);
+    return Loaded<Event>(event);
+  }
+  /// The object of an item as its class.
+  template <class Event>
+  [[nodiscard]] static Event& Loaded(EventItem& event) {
+    Event* object = event.As<Event>();
+    if (object == nullptr) throw RuntimeError(RuntimeError::kObjectVariableNotSet);
+    return *object;
+  }
 
  private:
   std::int32_t eventType_;
