@@ -8,10 +8,12 @@
 #include <QMenu>
 #include <QToolBar>
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "editors/EditorDoors.h"
+#include "editors/frmEvent.h"
 #include "editors/frmSettings.h"
 #include "mainwindow/NameDelegate.h"
 #include "mainwindow/SvgPicture.h"
@@ -90,6 +92,7 @@ class frmConvList : public QMainWindow, private ShellView, private SettingsHost 
   void BuildToolbar();
   void BuildPanes();
   void ConnectCommands();
+  void ConnectEventCommands();
   void ConnectTree();
   void ConnectList();
   void On(const QString& command, std::function<void()> handler);
@@ -121,6 +124,7 @@ class frmConvList : public QMainWindow, private ShellView, private SettingsHost 
   void EndSplitterDrag();
 
   [[nodiscard]] int WidthInTwips() const;
+  [[nodiscard]] frmEvent& EventEditor();
   [[nodiscard]] EditorDoors Doors() { return {shell_, messages_, dialogs_, progress_}; }
 
   MessageBoxes& messages_;
@@ -148,6 +152,7 @@ class frmConvList : public QMainWindow, private ShellView, private SettingsHost 
   QWidget imgSplitter_;
   QWidget picSplitter_;
   SvgPicture picLogo_;
+  std::unique_ptr<frmEvent> eventEditor_;  ///< Nothing until its first use.
 
   int splitterLeft_ = 0;     ///< Twips.
   int splitterBarLeft_ = 0;  ///< Twips; of the bar that shows during a drag.
