@@ -1,5 +1,7 @@
 #include "model/TableCombos.h"
 
+#include <unordered_map>
+
 #include "general/Prompts.h"
 #include "model/Tables.h"
 #include "model/Workspace.h"
@@ -29,10 +31,18 @@ bool UserWantsToAdd() {
 }  // namespace
 
 void PopulateCombo(ComboBox& combo, const Table& table) {
+  // Of rows with the same name the last ID stands, and at the first entry of that name.
+  std::unordered_map<std::string_view, std::int32_t> lastIDs;
   combo.Clear();
   for (const TableItem& row : table) {
     combo.AddItem(row.Name);
-    combo.SetItemData(FindComboIndexByText(combo, row.Name), row.ID);
+    lastIDs[row.Name] = row.ID;
+  }
+  for (int i = 0; i < combo.ListCount() && !lastIDs.empty(); ++i) {
+    const auto found = lastIDs.find(combo.List(i));
+    if (found == lastIDs.end()) continue;
+    combo.SetItemData(i, found->second);
+    lastIDs.erase(found);
   }
 }
 

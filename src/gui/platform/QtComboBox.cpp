@@ -1,22 +1,28 @@
 #include "platform/QtComboBox.h"
 
 #include <QLineEdit>
+#include <QListView>
 #include <QSignalBlocker>
+#include <algorithm>
+#include <limits>
 
 #include "platform/CodePageInput.h"
 #include "widgets/CodePageText.h"
 
 namespace parlate {
 
-QtComboBox::QtComboBox(QWidget* parent, RowOrder order) : QComboBox(parent), order_(order) {
+QtComboBox::QtComboBox(QWidget* parent, RowOrder order) : QComboBox(parent), rows_(order) {
+  setModel(&rows_);
+  connect(&rows_, &ComboRows::pendingRowsWanted, this, &QtComboBox::TellRows);
   setEditable(true);
   setInsertPolicy(QComboBox::NoInsert);
   // The width comes from the form; measuring every row of a long table costs more than filling it.
   setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   setMinimumContentsLength(12);
   KeepToCodePage(*this);
+  lineEdit()->setMaxLength(std::numeric_limits<int>::max());
 
-  completer_.setModel(model());
+  completer_.setModel(&rows_);
   completer_.setCompletionMode(QCompleter::PopupCompletion);
   completer_.setCaseSensitivity(Qt::CaseInsensitive);
   setCompleter(&completer_);
@@ -26,6 +32,7 @@ QtComboBox::QtComboBox(QWidget* parent, RowOrder order) : QComboBox(parent), ord
 
   // The first to hear of a choice, so that every other slot finds ListIndex right.
   connect(this, &QComboBox::currentIndexChanged, this, [this] {
+    if (adding_) return;
     typed_.reset();
     TellIfChanged();
   });
@@ -43,51 +50,68 @@ void QtComboBox::MakeListOnly() {
 }
 
 void QtComboBox::Clear() {
-  rows_.clear();
   typed_.reset();
   {
     const QSignalBlocker silence(this);
     const QSignalBlocker lineSilence(lineEdit());
-    clear();
+    rows_.Clear();
+    setCurrentIndex(-1);
     clearEditText();
   }
   TellIfChanged();
 }
 
 void QtComboBox::AddItem(const std::string& text) {
-  const int row = IndexForNewRow(
-      order_, ListCount(), text, [this](int index) -> const auto& {
-        return rows_[static_cast<std::size_t>(index)].text;
-      });
-  rows_.insert(rows_.begin() + row, {text, 0});
-  if (ListCount() > 1) {
-    const std::optional<QString> typed = typed_;
-    insertItem(row, ToQString(text));
-    typed_ = typed;
-    return;
-  }
-  AddFirstItem(text);
+  // A row that is added ahead of the selected one moves it, which is no choice of the user's.
+  adding_ = true;
+  rows_.Add(text);
+  adding_ = false;
+  if (currentIndex() != -1) TellIfChanged();
 }
 
-void QtComboBox::AddFirstItem(const std::string& text) {
-  const QString shown = currentText();
+void QtComboBox::TellRows() {
+  if (rows_.FirstRowsPending()) {
+    TellFirstRows();
+  } else {
+    rows_.TellPending();
+  }
+}
+
+void QtComboBox::TellFirstRows() {
   const QSignalBlocker silence(this);
-  const QSignalBlocker lineSilence(lineEdit());
-  insertItem(0, ToQString(text));
+  if (!isEditable()) {
+    rows_.TellPending();
+    setCurrentIndex(-1);
+    return;
+  }
+  QLineEdit& line = *lineEdit();
+  const QSignalBlocker lineSilence(&line);
+  const QString shown = line.text();
+  const int caret = line.cursorPosition();
+  const int selected = static_cast<int>(line.selectedText().size());
+  const int start = line.selectionStart();
+  rows_.TellPending();
   setCurrentIndex(-1);
-  if (isEditable()) lineEdit()->setText(shown);
+  line.setText(shown);
+  line.setCursorPosition(caret);
+  // A selection ends at its caret, at whichever side that stands.
+  if (selected > 0)
+    line.setSelection(caret == start ? start + selected : start,
+                      caret == start ? -selected : selected);
 }
 
 std::string QtComboBox::List(int index) const {
-  return Holds(index) ? rows_[static_cast<std::size_t>(index)].text : std::string();
+  const ComboRows::Row* row = rows_.At(index);
+  return row == nullptr ? std::string() : row->text;
 }
 
 std::int32_t QtComboBox::ItemData(int index) const {
-  return Holds(index) ? rows_[static_cast<std::size_t>(index)].itemData : 0;
+  const ComboRows::Row* row = rows_.At(index);
+  return row == nullptr ? 0 : row->itemData;
 }
 
 void QtComboBox::SetItemData(int index, std::int32_t value) {
-  if (Holds(index)) rows_[static_cast<std::size_t>(index)].itemData = value;
+  if (ComboRows::Row* row = rows_.At(index)) row->itemData = value;
 }
 
 int QtComboBox::ListIndex() const {
@@ -97,7 +121,9 @@ int QtComboBox::ListIndex() const {
 
 void QtComboBox::SetListIndex(int index) {
   typed_.reset();
-  setCurrentIndex(Holds(index) ? index : -1);
+  const bool row = rows_.At(index) != nullptr;
+  if (row) TellRows();
+  setCurrentIndex(row ? index : -1);
   TellIfChanged();
 }
 
@@ -105,7 +131,10 @@ std::string QtComboBox::Text() const { return FromQString(currentText()); }
 
 void QtComboBox::SetText(const std::string& text) {
   if (!isEditable()) {
-    SetListIndex(findText(ToQString(text), Qt::MatchFixedString | Qt::MatchCaseSensitive));
+    const auto& all = rows_.All();
+    const auto row = std::find_if(
+        all.begin(), all.end(), [&text](const auto& candidate) { return candidate.text == text; });
+    SetListIndex(row == all.end() ? -1 : static_cast<int>(row - all.begin()));
     return;
   }
   typed_ = ToQString(text);
@@ -119,7 +148,28 @@ void QtComboBox::SelectText(int start, int length) {
 
 void QtComboBox::SetFocus() { setFocus(Qt::OtherFocusReason); }
 
-void QtComboBox::TakeAsTyped() { typed_ = lineEdit()->text(); }
+// Told here, rows do not come in the middle of a key press or while a list is laid out.
+void QtComboBox::focusInEvent(QFocusEvent* event) {
+  TellRows();
+  QComboBox::focusInEvent(event);
+}
+
+void QtComboBox::keyPressEvent(QKeyEvent* event) {
+  TellRows();
+  QComboBox::keyPressEvent(event);
+}
+
+void QtComboBox::showPopup() {
+  TellRows();
+  // Rows are all of one height, which saves measuring every one of a long list.
+  if (auto* list = qobject_cast<QListView*>(view())) list->setUniformItemSizes(true);
+  QComboBox::showPopup();
+}
+
+void QtComboBox::TakeAsTyped() {
+  TellRows();
+  typed_ = lineEdit()->text();
+}
 
 void QtComboBox::TellIfChanged() {
   const int index = ListIndex();

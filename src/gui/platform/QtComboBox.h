@@ -5,10 +5,9 @@
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <vector>
 
 #include "model/Controls.h"
-#include "platform/RowOrder.h"
+#include "platform/ComboRows.h"
 
 namespace parlate {
 
@@ -30,7 +29,7 @@ class QtComboBox final : public QComboBox, public ComboBox {
   void Clear() override;
   /// Adds a row with the number 0 behind it. Neither the text nor the selected row changes.
   void AddItem(const std::string& text) override;
-  [[nodiscard]] int ListCount() const override { return static_cast<int>(rows_.size()); }
+  [[nodiscard]] int ListCount() const override { return static_cast<int>(rows_.All().size()); }
   /// The text of a row, empty for an index without one.
   [[nodiscard]] std::string List(int index) const override;
   /// The number behind a row, 0 for an index without one.
@@ -47,26 +46,28 @@ class QtComboBox final : public QComboBox, public ComboBox {
   void SetFocus() override;
   [[nodiscard]] bool Visible() const override { return isVisible(); }
 
+  void showPopup() override;
+
  signals:
   /// ListIndex or the text changed, by hand or by the program.
   void choiceChanged();
 
- private:
-  struct Row {
-    std::string text;
-    std::int32_t itemData = 0;
-  };
+ protected:
+  void focusInEvent(QFocusEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
-  [[nodiscard]] bool Holds(int index) const { return index >= 0 && index < ListCount(); }
-  /// Adds the first row of all, which the toolkit would select and show.
-  void AddFirstItem(const std::string& text);
+ private:
+  /// Tells the toolkit of rows that were added. The choice stays as it is.
+  void TellRows();
+  /// The toolkit would select the first row of all, and show it.
+  void TellFirstRows();
   void TakeAsTyped();
   void TellIfChanged();
 
-  RowOrder order_;
-  std::vector<Row> rows_;  ///< What the toolkit shows, ready for the many look-ups of a fill.
+  ComboRows rows_;
   QCompleter completer_;
   std::optional<QString> typed_;  ///< The text that was typed or set, until a row is selected.
+  bool adding_ = false;
   int toldIndex_ = -1;
   QString toldText_;
 };

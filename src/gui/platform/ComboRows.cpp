@@ -1,0 +1,59 @@
+#include "platform/ComboRows.h"
+
+#include "widgets/CodePageText.h"
+
+namespace parlate {
+
+ComboRows::Row* ComboRows::At(int index) {
+  return index >= 0 && index < Count() ? &rows_[static_cast<std::size_t>(index)] : nullptr;
+}
+
+const ComboRows::Row* ComboRows::At(int index) const {
+  return index >= 0 && index < Count() ? &rows_[static_cast<std::size_t>(index)] : nullptr;
+}
+
+void ComboRows::Add(const std::string& text) {
+  const int row = IndexForNewRow(
+      order_, Count(), text, [this](int index) -> const auto& {
+        return rows_[static_cast<std::size_t>(index)].text;
+      });
+  const bool amongTold = row < told_;
+  if (amongTold) {
+    TellPending();
+    beginInsertRows({}, row, row);
+    ++told_;
+  }
+  rows_.insert(rows_.begin() + row, {text, 0});
+  if (amongTold) endInsertRows();
+}
+
+void ComboRows::Clear() {
+  const bool wasTold = told_ > 0;
+  if (wasTold) beginResetModel();
+  rows_.clear();
+  told_ = 0;
+  if (wasTold) endResetModel();
+}
+
+void ComboRows::TellPending() {
+  if (telling_ || told_ == Count()) return;
+  telling_ = true;
+  beginInsertRows({}, told_, Count() - 1);
+  told_ = Count();
+  endInsertRows();
+  telling_ = false;
+}
+
+int ComboRows::rowCount(const QModelIndex& parent) const {
+  if (parent.isValid()) return 0;
+  if (!telling_ && told_ < Count()) emit pendingRowsWanted();
+  return told_;
+}
+
+QVariant ComboRows::data(const QModelIndex& index, int role) const {
+  const bool isText = role == Qt::DisplayRole || role == Qt::EditRole;
+  const Row* row = isText && index.isValid() ? At(index.row()) : nullptr;
+  return row == nullptr ? QVariant() : QVariant(ToQString(row->text));
+}
+
+}  // namespace parlate
