@@ -55,4 +55,9 @@ void RecordingProgress::Step(const std::string& text, int value) {
   values.push_back(value);
 }
 
+void RecordingProgress::StepBelow(const std::string& text, int value) {
+  textsBelow.push_back(text);
+  values.push_back(value);
+}
+
 }  // namespace parlate::testing_support

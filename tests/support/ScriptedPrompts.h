@@ -45,6 +45,7 @@ class RecordingProgress final : public ProgressDisplay {
   void Begin(const std::string& caption, const std::string& text, int top) override;
   void SetTop(int newTop) override { tops.push_back(newTop); }
   void Step(const std::string& text, int value) override;
+  void StepBelow(const std::string& text, int value) override;
   void End() override { showing = false; }
 
   bool showing = false;
@@ -52,6 +53,7 @@ class RecordingProgress final : public ProgressDisplay {
   std::vector<int> tops;
   std::vector<std::string> texts;
   std::vector<int> values;
+  std::vector<std::string> textsBelow;
 };
 
 }  // namespace parlate::testing_support

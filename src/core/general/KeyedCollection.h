@@ -98,6 +98,13 @@ class KeyedCollection {
     index_.reset();
   }
 
+  /// Removes every item whose key passes the test, in one pass.
+  template <class Test>
+  void RemoveIf(Test test) {
+    std::erase_if(entries_, [&test](const Entry& entry) { return test(entry.key); });
+    index_.reset();
+  }
+
   void Clear() {
     entries_.clear();
     ascending_ = true;

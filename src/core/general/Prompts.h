@@ -49,6 +49,8 @@ class ProgressDisplay {
   virtual void SetTop(int top) = 0;
   /// Shows a text and a bar value from 0 to the top, and lets the interface repaint.
   virtual void Step(const std::string& text, int value) = 0;
+  /// As `Step`, with the text on a line of its own under the bar; the first text stays.
+  virtual void StepBelow(const std::string& text, int value) { Step(text, value); }
   virtual void End() = 0;
 };
 

@@ -109,6 +109,12 @@ bool Conversation::IsTableItemReferenced(std::int32_t id, std::int32_t tableType
   });
 }
 
+void Conversation::GatherTableItems(std::int32_t tableType, IDSet& ids) const {
+  if (tableType == kActorTable) ids.Add(NPCID);
+  if (tableType == kFlagTable) GatherFlags(flagRefs, ids);
+  for (const EventItem& event : events) event.GatherTableItems(tableType, ids);
+}
+
 void Conversation::ChangeConTableLink(std::int32_t tableType, std::int32_t oldID,
                                       std::int32_t newID) {
   // Meant: the owner follows a link of any table whose number happens to agree.

@@ -70,6 +70,8 @@ class Conversation {
   void EventRemove(std::int32_t eventKey);
   void EventRemoveAll();
   [[nodiscard]] bool IsTableItemReferenced(std::int32_t id, std::int32_t tableType) const;
+  /// Adds the IDs of all rows of that table that are referenced.
+  void GatherTableItems(std::int32_t tableType, IDSet& ids) const;
   /// Redirects references. The owner follows whatever the table type is.
   void ChangeConTableLink(std::int32_t tableType, std::int32_t oldID, std::int32_t newID);
   void StoreTableData() const;

@@ -51,6 +51,12 @@ Boolean ConversationFile::IsTableItemReferenced(std::int32_t id, std::int32_t ta
   });
 }
 
+IDSet ConversationFile::ReferencedTableItems(std::int32_t tableType) const {
+  IDSet ids;
+  for (const Conversation& con : Conversations) con.GatherTableItems(tableType, ids);
+  return ids;
+}
+
 Boolean ConversationFile::IsConNameInUse(const std::string& name) const {
   return std::any_of(Conversations.begin(), Conversations.end(),
                      [&](const Conversation& con) { return con.conName == name; });

@@ -72,6 +72,8 @@ class ConversationFile {
   /// RuntimeError, and what was read up to there stays.
   Boolean LoadConversations(BinaryReader& file, const FileHost& host);
   [[nodiscard]] Boolean IsTableItemReferenced(std::int32_t id, std::int32_t tableType) const;
+  /// The IDs for which `IsTableItemReferenced` is true, in one walk for all of them.
+  [[nodiscard]] IDSet ReferencedTableItems(std::int32_t tableType) const;
   /// Exact: names that differ in case alone are different.
   [[nodiscard]] Boolean IsConNameInUse(const std::string& name) const;
   /// Replaces the missions by the numbers behind the rows. RuntimeError 9 for an empty list.

@@ -140,6 +140,10 @@ bool EventItem::IsTableItemReferenced(std::int32_t id, std::int32_t tableType) c
   return Object().IsTableItemReferenced(id, tableType);
 }
 
+void EventItem::GatherTableItems(std::int32_t tableType, IDSet& ids) const {
+  Object().GatherTableItems(tableType, ids);
+}
+
 void EventItem::ChangeTableLink(std::int32_t tableType, std::int32_t oldID, std::int32_t newID) {
   Object().ChangeTableLink(tableType, oldID, newID);
 }

@@ -95,6 +95,7 @@ class EventItem {
                                    CompareMethod compareMethod, std::int32_t searchEventType) const;
   [[nodiscard]] Boolean AreLabelsValid(const Conversation& conversation) const;
   [[nodiscard]] bool IsTableItemReferenced(std::int32_t id, std::int32_t tableType) const;
+  void GatherTableItems(std::int32_t tableType, IDSet& ids) const;
   void ChangeTableLink(std::int32_t tableType, std::int32_t oldID, std::int32_t newID);
   void StoreTableData() const;
 

@@ -11,6 +11,8 @@ Boolean EventObject::AreLabelsValid(const Conversation&) const { return true; }
 
 bool EventObject::IsTableItemReferenced(std::int32_t, std::int32_t) const { return false; }
 
+void EventObject::GatherTableItems(std::int32_t, IDSet&) const {}
+
 void EventObject::ChangeTableLink(std::int32_t, std::int32_t, std::int32_t) {}
 
 Boolean EventObject::CheckLabel(const Conversation& con, const Conversation& labelled,

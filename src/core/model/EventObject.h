@@ -6,6 +6,7 @@
 
 #include "general/Boolean.h"
 #include "general/CodePage.h"
+#include "general/IDSet.h"
 #include "model/TableItem.h"
 #include "model/Vocabulary.h"
 
@@ -39,6 +40,8 @@ class EventObject {
   [[nodiscard]] virtual Boolean AreLabelsValid(const Conversation& con) const;
   /// Whether the event refers to that table row.
   [[nodiscard]] virtual bool IsTableItemReferenced(std::int32_t id, std::int32_t tableType) const;
+  /// Adds every ID for which `IsTableItemReferenced` of that table type is true.
+  virtual void GatherTableItems(std::int32_t tableType, IDSet& ids) const;
   /// Redirects references from the old ID to the new one.
   virtual void ChangeTableLink(std::int32_t tableType, std::int32_t oldID, std::int32_t newID);
   /// Puts the rows that the event refers to in the table buffer.

@@ -75,6 +75,10 @@ void ChangeFlagRefLink(FlagList& flagRefs, std::int32_t oldID, std::int32_t newI
   }
 }
 
+void GatherFlags(const FlagList& flagRefs, IDSet& ids) {
+  for (const FlagRef& flag : flagRefs) ids.Add(flag.flagID);
+}
+
 bool IsFlagReferenced(const FlagList& flagRefs, std::int32_t id) {
   return std::any_of(flagRefs.begin(), flagRefs.end(),
                      [id](const FlagRef& flag) { return flag.flagID == id; });

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "general/Boolean.h"
+#include "general/IDSet.h"
 #include "general/KeyedCollection.h"
 #include "model/Controls.h"
 
@@ -49,6 +50,8 @@ void LoadFlagRefs(RecordReader& in, FlagList& flagRefs);
 /// Redirects entries that were not redirected before; a redirected entry moves to the end of the
 /// list. RuntimeError 457 if the list has an entry under the new ID.
 void ChangeFlagRefLink(FlagList& flagRefs, std::int32_t oldID, std::int32_t newID);
+/// Adds the rows that the entries refer to.
+void GatherFlags(const FlagList& flagRefs, IDSet& ids);
 /// Whether an entry refers to that row.
 [[nodiscard]] bool IsFlagReferenced(const FlagList& flagRefs, std::int32_t id);
 

@@ -108,6 +108,19 @@ void RemoveTableItemByName(std::int32_t tableType, std::string_view name) {
   }
 }
 
+void RemoveTableItem(std::int32_t tableType, std::int32_t id, std::string_view name) {
+  Table& table = RequireTable(tableType);
+  if (table.Find(id) != nullptr) {
+    table.Remove(id);
+  } else {
+    RemoveTableItemByName(tableType, name);
+  }
+}
+
+void RemoveTableItems(std::int32_t tableType, const IDSet& ids) {
+  RequireTable(tableType).RemoveIf([&ids](std::int32_t id) { return ids.Contains(id); });
+}
+
 std::int32_t ResolveTableItem(std::int32_t tableType, std::int32_t id, const std::string& name) {
   if (RequireTable(tableType).Find(id) != nullptr) return id;
   return AddTableItem(tableType, name).ID;

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "general/IDSet.h"
 #include "model/TableItem.h"
 
 namespace parlate {
@@ -47,6 +48,10 @@ TableItem& AppendTableItem(std::int32_t tableType, const std::string& name);
 /// The first row of that exact name, or nothing.
 [[nodiscard]] TableItem* FindTableItemByName(std::int32_t tableType, std::string_view name);
 void RemoveTableItemByName(std::int32_t tableType, std::string_view name);
+/// Removes the row of that ID or, if there is none, the first of that name.
+void RemoveTableItem(std::int32_t tableType, std::int32_t id, std::string_view name);
+/// Removes all rows of these IDs.
+void RemoveTableItems(std::int32_t tableType, const IDSet& ids);
 /// An ID that is valid in the table: the given one, else that of the row of that name, else that
 /// of a new row.
 [[nodiscard]] std::int32_t ResolveTableItem(std::int32_t tableType, std::int32_t id,

@@ -65,4 +65,16 @@ class ListRows {
   ListRowsListener* listener_ = nullptr;
 };
 
+/// Keeps a selection in a list after the row at `index` went: the row that moved up, else the last
+/// one.
+template <class List>
+void ReselectListIndex(List& list, std::int32_t index) {
+  const auto count = static_cast<std::int32_t>(list.ListCount());
+  if (count > index) {
+    list.SetListIndex(index);
+  } else if (count > 0) {
+    list.SetListIndex(index - 1);
+  }
+}
+
 }  // namespace parlate

@@ -49,6 +49,10 @@ Boolean Shell::IsTableItemReferenced(std::int32_t id, std::int32_t tableType) co
   return conFile_ && conFile_->IsTableItemReferenced(id, tableType);
 }
 
+IDSet Shell::ReferencedTableItems(std::int32_t tableType) const {
+  return conFile_ ? conFile_->ReferencedTableItems(tableType) : IDSet();
+}
+
 CommandPredicates Shell::Predicates() const {
   CommandPredicates predicates;
   predicates.fileOpen = conFile_ != nullptr;

@@ -58,6 +58,8 @@ class Shell final : public ConversationDirectory, public ConversationTreeOrder {
   [[nodiscard]] const std::string& GetAudioPackage() const { return conFile_->AudioPackage; }
   [[nodiscard]] Boolean IsConNameInUse(const std::string& newConName) const;
   [[nodiscard]] Boolean IsTableItemReferenced(std::int32_t id, std::int32_t tableType) const;
+  /// All IDs for which `IsTableItemReferenced` is true, in one walk.
+  [[nodiscard]] IDSet ReferencedTableItems(std::int32_t tableType) const;
 
   // Workflow of the file.
   /// False if the user kept the old file or cancelled the properties of the new one.
@@ -203,9 +205,5 @@ class Shell final : public ConversationDirectory, public ConversationTreeOrder {
   ConversationTree tree_;
   ListRows events_;
 };
-
-/// Keeps a selection in the list after the row at `index` went: the row that moved up, else the
-/// last one.
-void ReselectListIndex(ListRows& list, std::int32_t index);
 
 }  // namespace parlate

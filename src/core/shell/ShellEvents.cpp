@@ -168,13 +168,4 @@ void Shell::ListClick() {
   lastClickedRow = events_.ListIndex();
 }
 
-void ReselectListIndex(ListRows& list, std::int32_t index) {
-  const auto count = static_cast<std::int32_t>(list.ListCount());
-  if (count > index) {
-    list.SetListIndex(index);
-  } else if (count > 0) {
-    list.SetListIndex(index - 1);
-  }
-}
-
 }  // namespace parlate

@@ -1,7 +1,14 @@
 #include "mainwindow/FormInventory.h"
 
+#include "editors/frmCameraProperties.h"
+#include "editors/frmChoiceEdit.h"
+#include "editors/frmEditValue.h"
+#include "editors/frmEvent.h"
+#include "editors/frmFlagList.h"
 #include "editors/frmMissingLabels.h"
+#include "editors/frmPlayAudio.h"
 #include "editors/frmSettings.h"
+#include "editors/frmTableEdit.h"
 #include "mainwindow/frmAbout.h"
 #include "mainwindow/frmConvList.h"
 #include "mainwindow/frmProgress.h"
@@ -46,6 +53,54 @@ class LoadedConvList : private NobodyAsked, public frmConvList {
   LoadedConvList() : frmConvList(*this, *this, *this) { shell().UpdateCommandStates(); }
 };
 
+/// The program behind the editors: a main window with nothing open, which stays out of sight.
+struct ProgramBehind {
+  [[nodiscard]] EditorDoors Doors() { return {window.shell(), nobody, nobody, progress}; }
+
+  NobodyAsked nobody;
+  frmConvList window{nobody, nobody, nobody};
+  frmProgress progress;
+};
+
+class LoadedTableEdit : private ProgramBehind, public frmTableEdit {
+ public:
+  LoadedTableEdit() : frmTableEdit(ProgramBehind::Doors()) {}
+};
+
+/// An event editor without an event.
+struct EditorBehind : public ProgramBehind, public PanelHost {
+  [[nodiscard]] const std::shared_ptr<Conversation>& CurrentCon() const override { return con; }
+  void PopulateLabelCombo(ComboBox& cboLabels) override { cboLabels.Clear(); }
+  void PopulateLabelsOf(std::int32_t, ComboBox& cboLabels) override { cboLabels.Clear(); }
+  void SelectLabelValue(const std::string&, ComboBox&) override {}
+  [[nodiscard]] std::string SelectAudioFile() override { return {}; }
+  [[nodiscard]] bool IsEditorVisible() const override { return false; }
+  [[nodiscard]] SpeakerPair LastSpeakers() const override { return {}; }
+  [[nodiscard]] EditorDoors Doors() override { return ProgramBehind::Doors(); }
+
+  std::shared_ptr<Conversation> con;
+};
+
+std::string NoFolder(const Conversation& /*con*/) { return {}; }
+
+class LoadedChoiceEdit : private EditorBehind, public frmChoiceEdit {
+ public:
+  LoadedChoiceEdit() : frmChoiceEdit(static_cast<PanelHost&>(*this), NoFolder) {}
+};
+
+class LoadedEvent : private ProgramBehind, public frmEvent {
+ public:
+  LoadedEvent() : frmEvent(ProgramBehind::Doors()) {
+    AddEvent(kSpeech, std::make_shared<Conversation>());
+    hide();
+  }
+};
+
+class LoadedPlayAudio : public frmPlayAudio {
+ public:
+  LoadedPlayAudio() : frmPlayAudio(NoFolder) {}
+};
+
 template <class Form>
 FormFactory Factory(const char* name) {
   return {QString::fromLatin1(name), [] { return std::make_unique<Form>(); }};
@@ -61,6 +116,13 @@ std::vector<FormFactory> AllForms() {
       Factory<frmProgress>("frmProgress"),
       Factory<frmMissingLabels>("frmMissingLabels"),
       Factory<LoadedSettings>("frmSettings"),
+      Factory<frmFlagList>("frmFlagList"),
+      Factory<frmEditValue>("frmEditValue"),
+      Factory<LoadedTableEdit>("frmTableEdit"),
+      Factory<LoadedEvent>("frmEvent"),
+      Factory<LoadedChoiceEdit>("frmChoiceEdit"),
+      Factory<frmCameraProperties>("frmCameraProperties"),
+      Factory<LoadedPlayAudio>("frmPlayAudio"),
   };
 }
 

@@ -50,6 +50,7 @@ frmConvList::frmConvList(MessageBoxes& messages, FileDialogs& dialogs, SettingsS
 }
 
 frmConvList::~frmConvList() {
+  Workspace::Current().tableEditor = nullptr;
   // The panes are members, which the window must not delete as children.
   takeCentralWidget();
   removeToolBar(&tlbCon_);

@@ -31,7 +31,10 @@ struct MenuItem;
 /// shows is decided by the shell; the window paints it, and hands keys and clicks on.
 ///
 /// Positions and sizes are kept in twips, as the settings store them; see TwipsConversion.
-class frmConvList : public QMainWindow, private ShellView, private SettingsHost {
+class frmConvList : public QMainWindow,
+                    private ShellView,
+                    private SettingsHost,
+                    private TableEditor {
   Q_OBJECT
 
  public:
@@ -80,6 +83,9 @@ class frmConvList : public QMainWindow, private ShellView, private SettingsHost 
   void ShowFileProperties() override;
   bool PickFlags(FlagList& flagRefs) override;
 
+  // TableEditor
+  std::int32_t EditTableDialog(std::int32_t tableType) override;
+
   // SettingsHost
   void UpdateLastFiles() override { shell_.UpdateLastFiles(); }
   void UpdateEventsList() override { shell_.UpdateEventsList(nullptr); }
@@ -93,6 +99,7 @@ class frmConvList : public QMainWindow, private ShellView, private SettingsHost 
   void BuildPanes();
   void ConnectCommands();
   void ConnectEventCommands();
+  void ConnectTableCommands();
   void ConnectTree();
   void ConnectList();
   void On(const QString& command, std::function<void()> handler);

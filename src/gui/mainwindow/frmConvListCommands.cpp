@@ -14,6 +14,7 @@ void frmConvList::On(const QString& command, std::function<void()> handler) {
 
 void frmConvList::ConnectCommands() {
   ConnectEventCommands();
+  ConnectTableCommands();
   const auto open = [this] { shell_.OpenConFile(""); };
   const auto save = [this] { shell_.SaveConFile(false); };
   const auto cut = [this] { shell_.CutSelectedEvent(); };

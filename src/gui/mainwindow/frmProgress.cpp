@@ -93,6 +93,13 @@ void frmProgress::Step(const std::string& text, int value) {
   PaintIfDue();
 }
 
+void frmProgress::StepBelow(const std::string& text, int value) {
+  lblText2.setVisible(true);
+  barProgress.setValue(std::clamp(value, barProgress.minimum(), barProgress.maximum()));
+  lblText2.setText(ToQString(text));
+  PaintIfDue();
+}
+
 void frmProgress::SetTop2(int top) {
   SetBarTop(barProgress2, top);
   PaintIfDue();
@@ -107,6 +114,11 @@ void frmProgress::End() {
   setUpdatesEnabled(true);
   const bool wasActive = isActiveWindow();
   hide();
+  // A text that stood under the one bar was that of this walk alone.
+  if (barProgress2.isHidden()) {
+    lblText2.clear();
+    lblText2.hide();
+  }
   // Where the platform made the dialog active all the same, the keys go back to the window.
   if (wasActive && parentWidget() != nullptr) parentWidget()->window()->activateWindow();
 }

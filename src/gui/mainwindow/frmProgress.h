@@ -26,6 +26,7 @@ class frmProgress : public QDialog, public ProgressDisplay {
   void Begin(const std::string& caption, const std::string& text, int top) override;
   void SetTop(int top) override;
   void Step(const std::string& text, int value) override;
+  void StepBelow(const std::string& text, int value) override;
   void End() override;
 
   /// The same for the second text and bar.

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QLabel>
+#include <QLineEdit>
 
 namespace parlate {
 
@@ -30,6 +31,16 @@ void SetUpLabel(QLabel& label, const char* name, const QString& text) {
 void SetUpField(QWidget& field, const char* name, QLabel& label) {
   NameControl(field, name, WithoutAccessKey(label.text()));
   label.setBuddy(&field);
+}
+
+void PutCaretBehindText(QLineEdit& field) {
+  field.deselect();
+  field.end(false);
+}
+
+void FocusWholeText(QLineEdit& field) {
+  field.setFocus(Qt::OtherFocusReason);
+  field.selectAll();
 }
 
 }  // namespace parlate

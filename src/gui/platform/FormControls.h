@@ -4,6 +4,7 @@
 
 class QAbstractButton;
 class QLabel;
+class QLineEdit;
 class QWidget;
 
 namespace parlate {
@@ -20,5 +21,10 @@ void SetUpLabel(QLabel& label, const char* name, const QString& text);
 
 /// A field whose accessible name is the text of the label before it.
 void SetUpField(QWidget& field, const char* name, QLabel& label);
+
+/// Selects nothing of the text of a field and puts the caret behind its last character.
+void PutCaretBehindText(QLineEdit& field);
+/// Gives a field the focus with all its text selected.
+void FocusWholeText(QLineEdit& field);
 
 }  // namespace parlate

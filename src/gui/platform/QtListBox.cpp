@@ -32,6 +32,10 @@ void QtListBox::SetItemData(int index, std::int32_t value) {
   if (QListWidgetItem* row = item(index)) row->setData(Qt::UserRole, value);
 }
 
+void QtListBox::SetList(int index, const std::string& text) {
+  if (QListWidgetItem* row = item(index)) row->setText(ToQString(text));
+}
+
 bool QtListBox::Selected(int index) const {
   const QListWidgetItem* row = item(index);
   return row != nullptr && row->isSelected();

@@ -32,8 +32,10 @@ class QtListBox final : public QListWidget, public ListBox {
   void SetSelected(int index, bool selected);
   /// Removes a row; without one at that index nothing happens.
   void RemoveItem(int index);
-  /// The current row in a list of single selection, -1 for none.
-  [[nodiscard]] int ListIndex() const { return currentRow(); }
+  /// Changes the text of a row, which stays where it is; without one at that index nothing happens.
+  void SetList(int index, const std::string& text);
+  /// The row that has the focus and is selected, -1 for none: the focus alone does not select.
+  [[nodiscard]] int ListIndex() const { return Selected(currentRow()) ? currentRow() : -1; }
   void SetListIndex(int index) { setCurrentRow(index); }
 
  private:

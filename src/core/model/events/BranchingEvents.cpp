@@ -66,6 +66,10 @@ bool EventJump::IsTableItemReferenced(std::int32_t id, std::int32_t tableType) c
   return tableType == kActorTable && conOwner == id;
 }
 
+void EventJump::GatherTableItems(std::int32_t tableType, IDSet& ids) const {
+  if (tableType == kActorTable) ids.Add(conOwner);
+}
+
 std::int16_t EventRandom::GetLabelCount() const {
   if (labels_.empty()) throw RuntimeError(RuntimeError::kSubscriptOutOfRange);
   return NarrowTo<std::int16_t>(labels_.size() - 1);
@@ -158,6 +162,10 @@ bool EventCheckFlag::IsTableItemReferenced(std::int32_t id, std::int32_t tableTy
   return tableType == kFlagTable && IsFlagReferenced(flagRefs, id);
 }
 
+void EventCheckFlag::GatherTableItems(std::int32_t tableType, IDSet& ids) const {
+  if (tableType == kFlagTable) GatherFlags(flagRefs, ids);
+}
+
 void EventCheckFlag::ChangeTableLink(std::int32_t tableType, std::int32_t oldID,
                                      std::int32_t newID) {
   if (tableType == kFlagTable) ChangeFlagRefLink(flagRefs, oldID, newID);
@@ -182,6 +190,10 @@ std::string EventSetFlag::BuildEventListSubString() const {
 
 bool EventSetFlag::IsTableItemReferenced(std::int32_t id, std::int32_t tableType) const {
   return tableType == kFlagTable && IsFlagReferenced(flagRefs, id);
+}
+
+void EventSetFlag::GatherTableItems(std::int32_t tableType, IDSet& ids) const {
+  if (tableType == kFlagTable) GatherFlags(flagRefs, ids);
 }
 
 void EventSetFlag::ChangeTableLink(std::int32_t tableType, std::int32_t oldID, std::int32_t newID) {
@@ -209,6 +221,10 @@ Boolean EventCheckObject::AreLabelsValid(const Conversation& con) const {
 
 bool EventCheckObject::IsTableItemReferenced(std::int32_t id, std::int32_t tableType) const {
   return tableType == kObjectTable && objectID == id;
+}
+
+void EventCheckObject::GatherTableItems(std::int32_t tableType, IDSet& ids) const {
+  if (tableType == kObjectTable) ids.Add(objectID);
 }
 
 void EventCheckObject::ChangeTableLink(std::int32_t tableType, std::int32_t oldID,

@@ -27,6 +27,7 @@ class EventJump final : public EventObject {
   [[nodiscard]] std::string BuildEventListString() const override;
   [[nodiscard]] Boolean AreLabelsValid(const Conversation& con) const override;
   [[nodiscard]] bool IsTableItemReferenced(std::int32_t id, std::int32_t tableType) const override;
+  void GatherTableItems(std::int32_t tableType, IDSet& ids) const override;
   /// A jump to that conversation comes to point nowhere.
   void RemoveConversationLinks(std::int32_t removedConID) { Redirect(conID, removedConID, -1); }
 };
@@ -78,6 +79,7 @@ class EventCheckFlag final : public EventObject {
   [[nodiscard]] std::string BuildEventListSubString() const override;
   [[nodiscard]] Boolean AreLabelsValid(const Conversation& con) const override;
   [[nodiscard]] bool IsTableItemReferenced(std::int32_t id, std::int32_t tableType) const override;
+  void GatherTableItems(std::int32_t tableType, IDSet& ids) const override;
   void ChangeTableLink(std::int32_t tableType, std::int32_t oldID, std::int32_t newID) override;
   void StoreTableData() const override;
 };
@@ -95,6 +97,7 @@ class EventSetFlag final : public EventObject {
   [[nodiscard]] std::string BuildEventListString() const override;
   [[nodiscard]] std::string BuildEventListSubString() const override;
   [[nodiscard]] bool IsTableItemReferenced(std::int32_t id, std::int32_t tableType) const override;
+  void GatherTableItems(std::int32_t tableType, IDSet& ids) const override;
   void ChangeTableLink(std::int32_t tableType, std::int32_t oldID, std::int32_t newID) override;
   void StoreTableData() const override;
 };
@@ -112,6 +115,7 @@ class EventCheckObject final : public EventObject {
   [[nodiscard]] std::string BuildEventListString() const override;
   [[nodiscard]] Boolean AreLabelsValid(const Conversation& con) const override;
   [[nodiscard]] bool IsTableItemReferenced(std::int32_t id, std::int32_t tableType) const override;
+  void GatherTableItems(std::int32_t tableType, IDSet& ids) const override;
   void ChangeTableLink(std::int32_t tableType, std::int32_t oldID, std::int32_t newID) override;
   void StoreTableData() const override;
 };

@@ -50,6 +50,14 @@ bool EventTransferObject::IsTableItemReferenced(std::int32_t id, std::int32_t ta
   return tableType == kObjectTable && objectID == id;
 }
 
+void EventTransferObject::GatherTableItems(std::int32_t tableType, IDSet& ids) const {
+  if (tableType == kActorTable) {
+    ids.Add(fromPawnID);
+    ids.Add(toPawnID);
+  }
+  if (tableType == kObjectTable) ids.Add(objectID);
+}
+
 void EventTransferObject::ChangeTableLink(std::int32_t tableType, std::int32_t oldID,
                                           std::int32_t newID) {
   if (tableType == kActorTable) {
@@ -133,6 +141,10 @@ bool EventAnimation::IsTableItemReferenced(std::int32_t id, std::int32_t tableTy
   return tableType == kActorTable && PawnID == id;
 }
 
+void EventAnimation::GatherTableItems(std::int32_t tableType, IDSet& ids) const {
+  if (tableType == kActorTable) ids.Add(PawnID);
+}
+
 void EventAnimation::ChangeTableLink(std::int32_t tableType, std::int32_t oldID,
                                      std::int32_t newID) {
   if (tableType == kActorTable) Redirect(PawnID, oldID, newID);
@@ -144,6 +156,10 @@ void EventTrade::Update(const ComboBox& cboPawn) { PawnID = GetComboItemID(cboPa
 
 bool EventTrade::IsTableItemReferenced(std::int32_t id, std::int32_t tableType) const {
   return tableType == kActorTable && PawnID == id;
+}
+
+void EventTrade::GatherTableItems(std::int32_t tableType, IDSet& ids) const {
+  if (tableType == kActorTable) ids.Add(PawnID);
 }
 
 void EventTrade::ChangeTableLink(std::int32_t tableType, std::int32_t oldID, std::int32_t newID) {

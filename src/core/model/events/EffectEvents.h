@@ -26,6 +26,7 @@ class EventTransferObject final : public EventObject {
   [[nodiscard]] std::string BuildEventListString() const override;
   [[nodiscard]] Boolean AreLabelsValid(const Conversation& con) const override;
   [[nodiscard]] bool IsTableItemReferenced(std::int32_t id, std::int32_t tableType) const override;
+  void GatherTableItems(std::int32_t tableType, IDSet& ids) const override;
   void ChangeTableLink(std::int32_t tableType, std::int32_t oldID, std::int32_t newID) override;
   void StoreTableData() const override;
 };
@@ -78,6 +79,7 @@ class EventAnimation final : public EventObject {
   [[nodiscard]] std::int32_t GetActorID() const override { return PawnID; }
   [[nodiscard]] std::string BuildEventListString() const override;
   [[nodiscard]] bool IsTableItemReferenced(std::int32_t id, std::int32_t tableType) const override;
+  void GatherTableItems(std::int32_t tableType, IDSet& ids) const override;
   void ChangeTableLink(std::int32_t tableType, std::int32_t oldID, std::int32_t newID) override;
   void StoreTableData() const override;
 };
@@ -94,6 +96,7 @@ class EventTrade final : public EventObject {
   [[nodiscard]] std::int32_t GetActorID() const override { return PawnID; }
   [[nodiscard]] std::string BuildEventListString() const override { return "Trade"; }
   [[nodiscard]] bool IsTableItemReferenced(std::int32_t id, std::int32_t tableType) const override;
+  void GatherTableItems(std::int32_t tableType, IDSet& ids) const override;
   void ChangeTableLink(std::int32_t tableType, std::int32_t oldID, std::int32_t newID) override;
   void StoreTableData() const override;
 };

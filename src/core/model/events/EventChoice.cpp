@@ -101,6 +101,13 @@ bool EventChoice::IsTableItemReferenced(std::int32_t id, std::int32_t tableType)
   });
 }
 
+void EventChoice::GatherTableItems(std::int32_t tableType, IDSet& ids) const {
+  for (const ChoiceItem& choice : Choices) {
+    if (tableType == kSkillTable) ids.Add(choice.skillID);
+    if (tableType == kFlagTable) GatherFlags(choice.flagRefs, ids);
+  }
+}
+
 Boolean EventChoice::IsAudioMissing() const {
   return std::any_of(Choices.begin(), Choices.end(), [](const ChoiceItem& choice) {
     return choice.bDisplayAsSpeech && choice.audioFile.empty();

@@ -49,6 +49,7 @@ class EventChoice final : public EventObject {
   [[nodiscard]] std::string BuildEventListSubString() const override;
   [[nodiscard]] Boolean AreLabelsValid(const Conversation& con) const override;
   [[nodiscard]] bool IsTableItemReferenced(std::int32_t id, std::int32_t tableType) const override;
+  void GatherTableItems(std::int32_t tableType, IDSet& ids) const override;
   /// Whether a spoken choice names no audio file.
   [[nodiscard]] Boolean IsAudioMissing() const;
   void ChangeTableLink(std::int32_t tableType, std::int32_t oldID, std::int32_t newID) override;

@@ -32,6 +32,12 @@ bool EventSpeech::IsTableItemReferenced(std::int32_t id, std::int32_t tableType)
   return tableType == kActorTable && (ActorSpeakerID == id || ActorSpeakingToID == id);
 }
 
+void EventSpeech::GatherTableItems(std::int32_t tableType, IDSet& ids) const {
+  if (tableType != kActorTable) return;
+  ids.Add(ActorSpeakerID);
+  ids.Add(ActorSpeakingToID);
+}
+
 void EventSpeech::ChangeTableLink(std::int32_t tableType, std::int32_t oldID, std::int32_t newID) {
   if (tableType != kActorTable) return;
   Redirect(ActorSpeakerID, oldID, newID);

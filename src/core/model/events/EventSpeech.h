@@ -32,6 +32,7 @@ class EventSpeech final : public EventObject {
   [[nodiscard]] Boolean FindString(std::string_view searchString, Boolean bWholeWord,
                                    CompareMethod compareMethod) const override;
   [[nodiscard]] bool IsTableItemReferenced(std::int32_t id, std::int32_t tableType) const override;
+  void GatherTableItems(std::int32_t tableType, IDSet& ids) const override;
   void ChangeTableLink(std::int32_t tableType, std::int32_t oldID, std::int32_t newID) override;
   void StoreTableData() const override;
 
