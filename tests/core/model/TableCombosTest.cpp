@@ -37,6 +37,13 @@ TEST_F(TableCombos, KeepIdAndNameTogetherInASortedControl) {
   EXPECT_EQ(combo_.entries, (std::vector<FakeRow>{{"Bob", 2}, {"Zoe", 4}}));
 }
 
+TEST_F(TableCombos, GiveTheLastIdOfANameToItsFirstEntry) {
+  TestWorkspace::AddRows(kActorTable, {{6, "Zoe"}, {8, "bob"}, {9, "Zoe"}});
+  PopulateCombo(combo_, *GetTable(kActorTable));
+  EXPECT_EQ(combo_.entries,
+            (std::vector<FakeRow>{{"Zoe", 9}, {"Bob", 2}, {"Zoe", 0}, {"bob", 8}, {"Zoe", 0}}));
+}
+
 TEST_F(TableCombos, NumberTheEntriesOfAVocabulary) {
   PopulateComboFromArray(combo_, skillLevelNames);
   EXPECT_EQ(combo_.entries, (std::vector<FakeRow>{

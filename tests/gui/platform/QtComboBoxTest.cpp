@@ -164,6 +164,100 @@ TEST_F(QtComboBoxTest, ClearDropsRowsAndText) {
   EXPECT_EQ(combo_.Text(), "");
 }
 
+TEST_F(QtComboBoxTest, ManyRowsReachTheToolkitInOnePiece) {
+  const QSignalSpy told(combo_.model(), &QAbstractItemModel::rowsInserted);
+  for (int i = 0; i < 1000; ++i) combo_.AddItem("row " + std::to_string(i));
+  EXPECT_EQ(combo_.count(), 1000);
+  EXPECT_EQ(told.size(), 1);
+  EXPECT_EQ(combo_.itemText(999), "row 999");
+  EXPECT_EQ(combo_.findText("row 500"), 500);
+  EXPECT_EQ(combo_.ListIndex(), -1);
+  EXPECT_EQ(combo_.Text(), "");
+}
+
+TEST_F(QtComboBoxTest, RowsAddedLaterReachTheToolkitToo) {
+  Fill({"Anna", "Bo"});
+  combo_.SetListIndex(1);
+  Fill({"Carl"});
+  EXPECT_EQ(combo_.ListIndex(), 1);
+  EXPECT_EQ(combo_.Text(), "Bo");
+  QTest::keyClick(combo_.lineEdit(), Qt::Key_Down);
+  EXPECT_EQ(combo_.ListIndex(), 2);
+  EXPECT_EQ(combo_.Text(), "Carl");
+}
+
+TEST_F(QtComboBoxTest, RowsOfASecondFillReplaceThoseOfTheFirst) {
+  Fill({"Anna", "Bo"});
+  combo_.SetListIndex(1);
+  combo_.Clear();
+  Fill({"Carl"});
+  EXPECT_EQ(combo_.count(), 1);
+  EXPECT_EQ(combo_.itemText(0), "Carl");
+  EXPECT_EQ(combo_.ListIndex(), -1);
+  Type("c");
+  ASSERT_TRUE(QTest::qWaitFor([this] { return Popup().isVisible(); }));
+  EXPECT_EQ(combo_.completer()->completionCount(), 1);
+  Popup().hide();
+}
+
+TEST_F(QtComboBoxTest, RowsThatTheToolkitHearsOfLeaveCaretAndSelection) {
+  combo_.SetText("Stranger");
+  combo_.lineEdit()->setCursorPosition(3);
+  Fill({"Anna", "Bo"});
+  EXPECT_EQ(combo_.count(), 2);
+  EXPECT_EQ(combo_.Text(), "Stranger");
+  EXPECT_EQ(combo_.lineEdit()->cursorPosition(), 3);
+  for (const int length : {4, -2}) {
+    combo_.Clear();
+    combo_.SetText("Stranger");
+    combo_.lineEdit()->setSelection(3, length);
+    Fill({"Anna", "Bo"});
+    EXPECT_EQ(combo_.count(), 2);
+    EXPECT_EQ(combo_.lineEdit()->selectedText(), length == 4 ? "ange" : "tr");
+    EXPECT_EQ(combo_.lineEdit()->cursorPosition(), 3 + length);
+  }
+}
+
+TEST_F(QtComboBoxTest, AnInsertedLetterLeavesTheCaretWhereItIs) {
+  combo_.SetText("Stanger");
+  combo_.lineEdit()->setCursorPosition(2);
+  Fill({"Anna", "Bo"});
+  QTest::keyClicks(combo_.lineEdit(), "r");
+  EXPECT_EQ(combo_.Text(), "Stranger");
+  EXPECT_EQ(combo_.lineEdit()->cursorPosition(), 3);
+}
+
+TEST_F(QtComboBoxTest, AListOnlyBoxStartsWithoutAChoice) {
+  combo_.MakeListOnly();
+  Fill({"Anna", "Bo"});
+  EXPECT_EQ(combo_.count(), 2);
+  EXPECT_EQ(combo_.ListIndex(), -1);
+  EXPECT_EQ(combo_.Text(), "");
+  combo_.SetText("Bo");
+  EXPECT_EQ(combo_.ListIndex(), 1);
+  combo_.SetText("bo");
+  EXPECT_EQ(combo_.ListIndex(), -1);
+}
+
+TEST_F(QtComboBoxTest, TheOpenListShowsEveryRow) {
+  Fill({"Anna", "Bo", "Carl"});
+  combo_.SetListIndex(0);
+  Fill({"Dora"});
+  combo_.showPopup();
+  ASSERT_TRUE(QTest::qWaitFor([this] { return combo_.view()->isVisible(); }));
+  EXPECT_EQ(combo_.view()->model()->rowCount(), 4);
+  QTest::keyClick(combo_.view(), Qt::Key_End);
+  QTest::keyClick(combo_.view(), Qt::Key_Return);
+  EXPECT_EQ(combo_.ListIndex(), 3);
+  EXPECT_EQ(combo_.Text(), "Dora");
+}
+
+TEST_F(QtComboBoxTest, TakesATextLongerThanTheToolkitsLimit) {
+  const std::string text(40000, 'x');
+  combo_.SetText(text);
+  EXPECT_EQ(combo_.Text(), text);
+}
+
 TEST_F(QtComboBoxTest, EveryChangeIsToldOnceAndWithTheRightIndex) {
   Fill({"Anna", "Bo"});
   const QSignalSpy told(&combo_, &QtComboBox::choiceChanged);
@@ -241,6 +335,33 @@ TEST(SortedQtComboBox, ATypedTextStaysWhenARowOfThatNameIsAdded) {
   combo.AddItem("Anna");
   EXPECT_EQ(combo.Text(), "Box");
   EXPECT_EQ(combo.ListIndex(), -1);
+}
+
+TEST(SortedQtComboBox, AddingARowTellsNoChangeOfATypedText) {
+  QtComboBox combo(nullptr, RowOrder::ByName);
+  combo.AddItem("Bo");
+  combo.SetListIndex(0);
+  QTest::keyClicks(combo.lineEdit(), "x");
+  const QSignalSpy told(&combo, &QtComboBox::choiceChanged);
+  combo.AddItem("Anna");
+  EXPECT_EQ(told.size(), 0);
+}
+
+TEST(SortedQtComboBox, RowsAmongAndBehindThoseOfTheToolkitKeepTheirPlaces) {
+  QtComboBox combo(nullptr, RowOrder::ByName);
+  combo.AddItem("Bo");
+  combo.AddItem("Dora");
+  EXPECT_EQ(combo.count(), 2);
+  combo.AddItem("Emil");
+  combo.AddItem("Carl");
+  combo.AddItem("Anna");
+  combo.AddItem("Fred");
+  ASSERT_EQ(combo.count(), 6);
+  const std::array<const char*, 6> names{"Anna", "Bo", "Carl", "Dora", "Emil", "Fred"};
+  for (int i = 0; i < 6; ++i) {
+    EXPECT_EQ(combo.itemText(i), names[static_cast<std::size_t>(i)]);
+    EXPECT_EQ(combo.List(i), names[static_cast<std::size_t>(i)]);
+  }
 }
 
 }  // namespace

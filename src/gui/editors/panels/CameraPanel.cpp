@@ -2,6 +2,7 @@
 
 #include <QVBoxLayout>
 
+#include "editors/frmCameraProperties.h"
 #include "editors/panels/PanelControls.h"
 #include "model/TableCombos.h"
 #include "platform/FormControls.h"
@@ -26,6 +27,7 @@ CameraPanel::CameraPanel(PanelHost& host, QWidget* parent)
   for (QRadioButton* option : {&optCameraPosition, &optCameraRandom, &optCameraSpecific}) {
     connect(option, &QRadioButton::toggled, this, &CameraPanel::RefreshCameraControls);
   }
+  connect(&cmdEditCamera, &QPushButton::clicked, this, &CameraPanel::EditCameraProperties);
   connect(&cboCameraPosition, &QtComboBox::choiceChanged, this, &EventPanel::changed);
   connect(&cboCameraTransition, &QtComboBox::choiceChanged, this, &EventPanel::changed);
 }
@@ -63,6 +65,12 @@ void CameraPanel::RefreshCameraControls() {
   cboCameraPosition.setEnabled(optCameraPosition.isChecked());
   cmdEditCamera.setEnabled(optCameraSpecific.isChecked());
   emit changed();
+}
+
+// Meant: the dialog has no owner, is given no data, and nothing is taken from it.
+void CameraPanel::EditCameraProperties() {
+  frmCameraProperties properties;
+  properties.exec();
 }
 
 void CameraPanel::ClearFields() {

@@ -26,6 +26,7 @@ class CameraPanel final : public EventPanel {
   void SetUpControls();
   void BuildLayout();
   void RefreshCameraControls();
+  static void EditCameraProperties();
 
   // In the order in which Tab visits them.
   QRadioButton optCameraPosition{this};
