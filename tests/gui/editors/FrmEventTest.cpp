@@ -131,7 +131,7 @@ TEST_F(FrmEvent, StartsInTheMiddleOfTheScreenInItsSize) {
 
 TEST_F(FrmEvent, ComesBackWhereItWasWhenItWasUnloaded) {
   Add(kEnd);
-  Editor().move(60, 45);
+  Editor().setGeometry(QRect(QPoint(60, 45), Editor().size()));
   program_.Choose("mnuFileSave");
   EXPECT_EQ(program_.workspace.defaults.EventLeft, 60 * 15);
   EXPECT_EQ(program_.workspace.defaults.EventTop, 45 * 15);
@@ -150,7 +150,7 @@ TEST_F(FrmEvent, StoredFarOutsideComesBackInSight) {
 
 TEST_F(FrmEvent, PlaceIsKeptWithTheSettingsAtTheEndOfTheProgram) {
   Add(kEnd);
-  Editor().move(30, 20);
+  Editor().setGeometry(QRect(QPoint(30, 20), Editor().size()));
   EXPECT_TRUE(program_.Close());
   EXPECT_EQ(program_.settings.values["EventLeft"], "450");
   EXPECT_EQ(program_.settings.values["EventTop"], "300");

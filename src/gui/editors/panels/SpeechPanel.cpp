@@ -37,6 +37,8 @@ void SpeechPanel::SetUpControls() {
   SetUpField(txtAudioFile, "txtAudioFile", lblAudioFile);
   SetUpTextLine(txtAudioFile);
   SetUpFieldButton(cmdSpeechAudio, "cmdSpeechAudio", QStringLiteral("..."), lblAudioFile);
+  // The file name has more use for the room than three points.
+  cmdSpeechAudio.setMaximumWidth(fontMetrics().horizontalAdvance(QStringLiteral("xx...xx")));
   SetUpButton(cmdPlayAudio, "cmdPlayAudio", QStringLiteral("&Play"));
   SetUpButton(chkSpeechContinued, "chkSpeechContinued", QStringLiteral("Continued"));
   SetUpLabel(lblSpeechFont, "lblSpeechFont", QStringLiteral("Font:"));
