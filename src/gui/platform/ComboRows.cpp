@@ -4,26 +4,33 @@
 
 namespace parlate {
 
+std::size_t ComboRows::PlaceOf(int index) const {
+  const auto at = static_cast<std::size_t>(index);
+  return order_ == RowOrder::AsAdded ? at : sorted_[at];
+}
+
 ComboRows::Row* ComboRows::At(int index) {
-  return index >= 0 && index < Count() ? &rows_[static_cast<std::size_t>(index)] : nullptr;
+  return index >= 0 && index < Count() ? &rows_[PlaceOf(index)] : nullptr;
 }
 
 const ComboRows::Row* ComboRows::At(int index) const {
-  return index >= 0 && index < Count() ? &rows_[static_cast<std::size_t>(index)] : nullptr;
+  return index >= 0 && index < Count() ? &rows_[PlaceOf(index)] : nullptr;
 }
 
 void ComboRows::Add(const std::string& text) {
   const int row = IndexForNewRow(
-      order_, Count(), text, [this](int index) -> const auto& {
-        return rows_[static_cast<std::size_t>(index)].text;
-      });
+      order_, Count(),
+      text, [this](int index) -> const auto& { return rows_[PlaceOf(index)].text; });
   const bool amongTold = row < told_;
   if (amongTold) {
     TellPending();
     beginInsertRows({}, row, row);
     ++told_;
   }
-  rows_.insert(rows_.begin() + row, {text, 0});
+  if (order_ == RowOrder::ByName) {
+    sorted_.insert(sorted_.begin() + row, static_cast<std::uint32_t>(rows_.size()));
+  }
+  rows_.push_back({text, 0});
   if (amongTold) endInsertRows();
 }
 
@@ -31,6 +38,7 @@ void ComboRows::Clear() {
   const bool wasTold = told_ > 0;
   if (wasTold) beginResetModel();
   rows_.clear();
+  sorted_.clear();
   told_ = 0;
   if (wasTold) endResetModel();
 }

@@ -25,7 +25,7 @@ class ComboRows final : public QAbstractListModel {
 
   explicit ComboRows(RowOrder order) : order_(order) {}
 
-  [[nodiscard]] const std::vector<Row>& All() const { return rows_; }
+  [[nodiscard]] int Count() const { return static_cast<int>(rows_.size()); }
   /// The row of an index; nothing for an index without one.
   [[nodiscard]] Row* At(int index);
   [[nodiscard]] const Row* At(int index) const;
@@ -46,10 +46,12 @@ class ComboRows final : public QAbstractListModel {
   void pendingRowsWanted() const;
 
  private:
-  [[nodiscard]] int Count() const { return static_cast<int>(rows_.size()); }
+  /// Where a row is kept; the index must have one.
+  [[nodiscard]] std::size_t PlaceOf(int index) const;
 
   RowOrder order_;
-  std::vector<Row> rows_;
+  std::vector<Row> rows_;              ///< As they were added.
+  std::vector<std::uint32_t> sorted_;  ///< Places in rows_ by name; empty for rows as added.
   int told_ = 0;  ///< So many rows, from the first on, are known to the toolkit.
   bool telling_ = false;
 };

@@ -3,7 +3,6 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QSignalBlocker>
-#include <algorithm>
 #include <limits>
 
 #include "platform/CodePageInput.h"
@@ -22,7 +21,6 @@ QtComboBox::QtComboBox(QWidget* parent, RowOrder order) : QComboBox(parent), row
   KeepToCodePage(*this);
   lineEdit()->setMaxLength(std::numeric_limits<int>::max());
 
-  completer_.setModel(&rows_);
   completer_.setCompletionMode(QCompleter::PopupCompletion);
   completer_.setCaseSensitivity(Qt::CaseInsensitive);
   setCompleter(&completer_);
@@ -51,6 +49,8 @@ void QtComboBox::MakeListOnly() {
 
 void QtComboBox::Clear() {
   typed_.reset();
+  // Offers that nobody sees would be searched anew whenever rows come.
+  completer_.setModel(nullptr);
   {
     const QSignalBlocker silence(this);
     const QSignalBlocker lineSilence(lineEdit());
@@ -131,10 +131,9 @@ std::string QtComboBox::Text() const { return FromQString(currentText()); }
 
 void QtComboBox::SetText(const std::string& text) {
   if (!isEditable()) {
-    const auto& all = rows_.All();
-    const auto row = std::find_if(
-        all.begin(), all.end(), [&text](const auto& candidate) { return candidate.text == text; });
-    SetListIndex(row == all.end() ? -1 : static_cast<int>(row - all.begin()));
+    int row = 0;
+    while (row < ListCount() && rows_.At(row)->text != text) ++row;
+    SetListIndex(row);
     return;
   }
   typed_ = ToQString(text);
@@ -168,6 +167,7 @@ void QtComboBox::showPopup() {
 
 void QtComboBox::TakeAsTyped() {
   TellRows();
+  completer_.setModel(&rows_);
   typed_ = lineEdit()->text();
 }
 

@@ -29,7 +29,7 @@ class QtComboBox final : public QComboBox, public ComboBox {
   void Clear() override;
   /// Adds a row with the number 0 behind it. Neither the text nor the selected row changes.
   void AddItem(const std::string& text) override;
-  [[nodiscard]] int ListCount() const override { return static_cast<int>(rows_.All().size()); }
+  [[nodiscard]] int ListCount() const override { return rows_.Count(); }
   /// The text of a row, empty for an index without one.
   [[nodiscard]] std::string List(int index) const override;
   /// The number behind a row, 0 for an index without one.
