@@ -153,6 +153,7 @@ class Shell final : public ConversationDirectory, public ConversationTreeOrder {
   /// Puts a new event ahead of the selected row, or at the end, and selects it. The editor goes on
   /// with it unless `bSilent`.
   void UpdateAddEvent(const std::shared_ptr<EventItem>& newEventObj, Boolean bSilent);
+  /// Shows a changed event at its row. An event whose row went leaves the other rows alone.
   void UpdateEditEvent(const EventItem& newEventObj);
   [[nodiscard]] Boolean IsPreviousEvent() const;
   [[nodiscard]] Boolean IsNextEvent() const;
@@ -209,6 +210,10 @@ class Shell final : public ConversationDirectory, public ConversationTreeOrder {
   void RefreshEventsList();
   [[nodiscard]] bool IsNameTakenByAnother(const Conversation& con, const std::string& name) const;
   [[nodiscard]] FlagRef* SelectedFlag() const;
+  /// With no row selected, that of the event.
+  void SelectRowOf(const EventItem* eventObj);
+  /// Whether the row that the event names is its own.
+  [[nodiscard]] bool IsAtItsRow(const EventItem& event) const;
 
   ShellView& view_;
   Doors doors_;

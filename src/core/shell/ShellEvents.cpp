@@ -57,15 +57,30 @@ void Shell::EditSelectedEvent() {
   if (const auto event = GetSelectedEvent()) view_.EditEvent(selectedCon_, event);
 }
 
+void Shell::SelectRowOf(const EventItem* eventObj) {
+  if (events_.ListIndex() != -1 || eventObj == nullptr) return;
+  // The editor may show an event whose row went, of a list that is shorter now.
+  const std::int32_t row = eventObj->listPos;
+  const bool there = row >= 0 && static_cast<std::size_t>(row) < events_.ListCount();
+  if (there) events_.SetListIndex(row);
+}
+
+bool Shell::IsAtItsRow(const EventItem& event) const {
+  if (!selectedCon_ || selectedCon_->events.Find(event.key) != &event) return false;
+  const std::int32_t row = event.listPos;
+  if (row < 0 || static_cast<std::size_t>(row) >= events_.ListCount()) return false;
+  return events_.Row(static_cast<std::size_t>(row)).itemData == event.key;
+}
+
 void Shell::EditPreviousEvent(const EventItem* eventObj) {
-  if (events_.ListIndex() == -1 && eventObj != nullptr) events_.SetListIndex(eventObj->listPos);
+  SelectRowOf(eventObj);
   if (!IsPreviousEvent()) return;
   events_.SetListIndex(events_.ListIndex() - 1);
   EditSelectedEvent();
 }
 
 void Shell::EditNextEvent(const EventItem* eventObj) {
-  if (events_.ListIndex() == -1 && eventObj != nullptr) events_.SetListIndex(eventObj->listPos);
+  SelectRowOf(eventObj);
   if (!IsNextEvent()) return;
   events_.SetListIndex(events_.ListIndex() + 1);
   EditSelectedEvent();
@@ -78,6 +93,10 @@ void Shell::ListSelectionChanged() {
 
 void Shell::UpdateAddEvent(const std::shared_ptr<EventItem>& newEventObj, Boolean bSilent) {
   if (!newEventObj || !selectedCon_) return;
+  // An editor that was opened for another conversation brings a key of that one.
+  while (selectedCon_->events.Find(newEventObj->key) != nullptr) {
+    newEventObj->key = selectedCon_->NextEventKey();
+  }
   bUpdatingEvents_ = true;
   const std::int32_t selected = events_.ListIndex();
   std::size_t pos = events_.ListCount();
@@ -104,12 +123,16 @@ void Shell::UpdateAddEvent(const std::shared_ptr<EventItem>& newEventObj, Boolea
 }
 
 void Shell::UpdateEditEvent(const EventItem& newEventObj) {
-  const std::int32_t listPos = newEventObj.listPos;
-  events_.SetText(static_cast<std::size_t>(listPos), newEventObj.BuildEventListString());
-  UpdateLabelColor(listPos, newEventObj);
-  AddSubText(newEventObj.BuildEventListSubString(), listPos);
+  // An editor that stays open can outlive the row of its event: the event was deleted, or another
+  // conversation is selected. No other row may suffer for that.
+  if (IsAtItsRow(newEventObj)) {
+    const std::int32_t listPos = newEventObj.listPos;
+    events_.SetText(static_cast<std::size_t>(listPos), newEventObj.BuildEventListString());
+    UpdateLabelColor(listPos, newEventObj);
+    AddSubText(newEventObj.BuildEventListSubString(), listPos);
+  }
   SetModified(true, selectedCon_.get());
-  UpdateMissingLabelHighlights(*selectedCon_);
+  if (selectedCon_) UpdateMissingLabelHighlights(*selectedCon_);
   UpdateCommandStates();
 }
 

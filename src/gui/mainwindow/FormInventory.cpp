@@ -4,6 +4,7 @@
 #include "editors/frmChoiceEdit.h"
 #include "editors/frmEditValue.h"
 #include "editors/frmExport.h"
+#include "editors/frmEvent.h"
 #include "editors/frmFlagList.h"
 #include "editors/frmImport.h"
 #include "editors/frmMissingLabels.h"
@@ -99,6 +100,14 @@ class LoadedChoiceEdit : private EditorBehind, public frmChoiceEdit {
   LoadedChoiceEdit() : frmChoiceEdit(static_cast<PanelHost&>(*this), NoFolder) {}
 };
 
+class LoadedEvent : private ProgramBehind, public frmEvent {
+ public:
+  LoadedEvent() : frmEvent(ProgramBehind::Doors()) {
+    AddEvent(kSpeech, std::make_shared<Conversation>());
+    hide();
+  }
+};
+
 class LoadedPlayAudio : public frmPlayAudio {
  public:
   LoadedPlayAudio() : frmPlayAudio(NoFolder) {}
@@ -122,6 +131,7 @@ std::vector<FormFactory> AllForms() {
       Factory<frmFlagList>("frmFlagList"),
       Factory<frmEditValue>("frmEditValue"),
       Factory<LoadedTableEdit>("frmTableEdit"),
+      Factory<LoadedEvent>("frmEvent"),
       Factory<LoadedChoiceEdit>("frmChoiceEdit"),
       Factory<frmCameraProperties>("frmCameraProperties"),
       Factory<LoadedPlayAudio>("frmPlayAudio"),

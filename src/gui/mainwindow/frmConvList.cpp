@@ -3,13 +3,12 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFile>
-#include <QGuiApplication>
-#include <QScreen>
 #include <QStatusBar>
 
 #include "mainwindow/Icons.h"
 #include "mainwindow/frmSplash.h"
 #include "platform/FontSetup.h"
+#include "platform/ScreenPlacement.h"
 #include "platform/TwipsConversion.h"
 #include "shell/CommandLine.h"
 
@@ -23,18 +22,6 @@ constexpr std::int32_t kMinimised = 1;
 constexpr std::int32_t kMaximised = 2;
 
 ConversationDefaults& Defaults() { return Workspace::Current().defaults; }
-
-/// A window that was stored for a screen which is gone, or larger, comes back whole and in sight.
-QRect OnScreen(QRect wanted) {
-  const QScreen* screen = QGuiApplication::screenAt(wanted.center());
-  if (screen == nullptr) screen = QGuiApplication::primaryScreen();
-  if (screen == nullptr) return wanted;
-  const QRect room = screen->availableGeometry();
-  wanted.setSize(wanted.size().boundedTo(room.size()));
-  wanted.moveLeft(qBound(room.left(), wanted.left(), room.right() + 1 - wanted.width()));
-  wanted.moveTop(qBound(room.top(), wanted.top(), room.bottom() + 1 - wanted.height()));
-  return wanted;
-}
 
 }  // namespace
 

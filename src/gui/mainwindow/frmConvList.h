@@ -8,10 +8,12 @@
 #include <QMenu>
 #include <QToolBar>
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "editors/EditorDoors.h"
+#include "editors/frmEvent.h"
 #include "editors/frmSettings.h"
 #include "mainwindow/NameDelegate.h"
 #include "mainwindow/SvgPicture.h"
@@ -100,6 +102,7 @@ class frmConvList : public QMainWindow,
   void BuildPanes();
   void ConnectCommands();
   void ConnectPrintingCommands();
+  void ConnectEventCommands();
   void ConnectTableCommands();
   void ConnectInterchangeCommands();
   void ConnectTree();
@@ -134,6 +137,7 @@ class frmConvList : public QMainWindow,
 
   [[nodiscard]] int WidthInTwips() const;
   [[nodiscard]] EditorDoors Doors() { return {shell_, messages_, dialogs_, progress_, printers_}; }
+  [[nodiscard]] frmEvent& EventEditor();
 
   MessageBoxes& messages_;
   FileDialogs& dialogs_;
@@ -161,6 +165,7 @@ class frmConvList : public QMainWindow,
   QWidget imgSplitter_;
   QWidget picSplitter_;
   SvgPicture picLogo_;
+  std::unique_ptr<frmEvent> eventEditor_;  ///< Nothing until its first use.
 
   int splitterLeft_ = 0;     ///< Twips.
   int splitterBarLeft_ = 0;  ///< Twips; of the bar that shows during a drag.

@@ -14,6 +14,7 @@ void frmConvList::On(const QString& command, std::function<void()> handler) {
 
 void frmConvList::ConnectCommands() {
   ConnectPrintingCommands();
+  ConnectEventCommands();
   ConnectTableCommands();
   const auto open = [this] { shell_.OpenConFile(""); };
   const auto save = [this] { shell_.SaveConFile(false); };

@@ -17,15 +17,6 @@ bool frmConvList::ShowMissingLabels(const std::vector<BadLabelRow>& rows, bool b
   return dialog.ShowMissingLabels(rows, bSaving);
 }
 
-void frmConvList::AddEvent(std::int32_t, const std::shared_ptr<Conversation>&) {}
-
-void frmConvList::EditEvent(const std::shared_ptr<Conversation>&,
-                            const std::shared_ptr<EventItem>&) {}
-
-bool frmConvList::IsEventEditorVisible() const { return false; }
-
-void frmConvList::UnloadEventEditor() {}
-
 int frmConvList::ShowProperties(Conversation&, int) { return 1; }
 
 void frmConvList::ShowFileProperties() {}

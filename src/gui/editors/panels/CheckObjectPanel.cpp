@@ -24,6 +24,8 @@ void CheckObjectPanel::SetUpControls() {
   SetUpLabel(lblCheckObjectFail, "lblCheckObjectFail",
              QStringLiteral("If Object Not Found, Jump to Label:"));
   SetUpField(cboCheckObjectFail, "cboCheckObjectFail", lblCheckObjectFail);
+  // On one line it would make the window wider than all other panels need it.
+  lblCheckObjectFail.setWordWrap(true);
 }
 
 void CheckObjectPanel::BuildLayout() {

@@ -29,6 +29,8 @@ void TransferObjectPanel::SetUpControls() {
   SetUpLabel(lblTransferCount, "lblTransferCount",
              QStringLiteral("Number of items to transfer (only if stackable!)"));
   SetUpField(txtTransferCount, "txtTransferCount", lblTransferCount);
+  // On one line it would make the window wider than all other panels need it.
+  lblTransferCount.setWordWrap(true);
   SetUpLabel(lblTransferFrom, "lblTransferFrom", QStringLiteral("Transfer From:"));
   SetUpField(cboTransferFrom, "cboTransferFrom", lblTransferFrom);
   SetUpFieldButton(cmdTransferFrom, "cmdTransferFrom", QStringLiteral("Edit NPC Table"),

@@ -1,0 +1,80 @@
+// How what was typed in the event editor is stored.
+
+#include "editors/frmEvent.h"
+#include "widgets/CodePageText.h"
+
+namespace parlate {
+
+namespace {
+
+std::string WithoutBlanksAround(const std::string& text) {
+  const std::size_t first = text.find_first_not_of(' ');
+  if (first == std::string::npos) return {};
+  return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+}  // namespace
+
+std::string frmEvent::Label() const { return FromQString(txtLabel.text()); }
+
+void frmEvent::Update() {
+  if (CheckLabelUnique()) {
+    if (bEditMode_ == 1) {
+      CommitEditedEvent();
+    } else {
+      CommitNewEvent();
+    }
+  }
+  txtLabel.setFocus();
+}
+
+bool frmEvent::CheckLabelUnique() {
+  if (IsLabelUnique()) return true;
+  doors_.messages.Show({"Duplicate Label",
+                        "The Event Label you entered is not unique, please choose another.",
+                        MessageBox::Icon::Exclamation, MessageBox::Buttons::Ok});
+  txtLabel.setFocus();
+  txtLabel.selectAll();
+  return false;
+}
+
+bool frmEvent::IsLabelUnique() {
+  const std::string label = WithoutBlanksAround(Label());
+  txtLabel.setText(ToQString(label));
+  return label.empty() || label == oldLabel_ || !currentCon_->IsValidLabel(label);
+}
+
+void frmEvent::CommitNewEvent() {
+  auto event = std::make_shared<EventItem>();
+  event->key = currentCon_->NextEventKey();
+  event->eventType = cboEvents.ListIndex();
+  bEditMode_ = 1;
+  // With no conversation selected the event gets into none and is not opened again, but the panel
+  // goes on working on it.
+  currentEvent_ = event;
+  UpdateEventObject(*event);
+  doors_.shell.UpdateAddEvent(event, false);
+}
+
+void frmEvent::CommitEditedEvent() {
+  // The main window may open another event on the way.
+  const std::shared_ptr<EventItem> event = currentEvent_;
+  UpdateEventObject(*event);
+  doors_.shell.UpdateEditEvent(*event);
+}
+
+void frmEvent::UpdateEventObject(EventItem& eventItem) {
+  const std::string label = WithoutBlanksAround(Label());
+  txtLabel.setText(ToQString(label));
+  eventItem.eventLabel = label;
+  currentCon_->UpdateLabel(oldLabel_, label);
+  oldLabel_ = label;
+  lastSpeakers_ = {};
+  Panel(eventItem.eventType).UpdateEvent(eventItem);
+  if (const auto* speech = eventItem.As<EventSpeech>()) {
+    lastSpeakers_ = {speech->ActorSpeakerID, speech->ActorSpeakingToID};
+  }
+  RefreshNavButtons();
+}
+
+}  // namespace parlate
