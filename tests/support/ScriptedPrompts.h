@@ -46,8 +46,10 @@ class RecordingProgress final : public ProgressDisplay {
   void SetTop(int newTop) override { tops.push_back(newTop); }
   void Step(const std::string& text, int value) override;
   void End() override { showing = false; }
+  void LetRepaint() override { ++repaints; }
 
   bool showing = false;
+  int repaints = 0;
   std::string caption;
   std::vector<int> tops;
   std::vector<std::string> texts;

@@ -29,6 +29,20 @@ constexpr std::array<char, 256> MakeFoldTable() {
 
 constexpr std::array<char, 256> kFold = MakeFoldTable();
 
+/// The other character of a pair that differs in case, or the character itself: no three characters
+/// fold to one.
+constexpr std::array<char, 256> MakeOtherCaseTable() {
+  std::array<char, 256> table{};
+  for (std::size_t i = 0; i < table.size(); ++i) table[i] = kFold[i];
+  for (std::size_t i = 0; i < table.size(); ++i) {
+    const auto folded = static_cast<unsigned char>(kFold[i]);
+    if (folded != i) table[folded] = static_cast<char>(static_cast<unsigned char>(i));
+  }
+  return table;
+}
+
+constexpr std::array<char, 256> kOtherCase = MakeOtherCaseTable();
+
 void AppendUtf8(std::string& out, char16_t codePoint) {
   if (codePoint < 0x80) {
     out += static_cast<char>(codePoint);
@@ -72,6 +86,56 @@ char32_t TakeCodePoint(std::string_view& utf8) {
 }
 
 bool EqualFolded(char left, char right) { return FoldCase(left) == FoldCase(right); }
+
+/// A character in either case.
+struct EitherCase {
+  explicit EitherCase(char character)
+      : one(character), other(kOtherCase[static_cast<unsigned char>(character)]) {}
+  [[nodiscard]] bool Is(char c) const { return c == one || c == other; }
+
+  char one;
+  char other;
+};
+
+constexpr std::size_t kBlock = 16;
+
+/// Whether a text may begin at one of the places of a block, `first` being its first character and
+/// `last` its last, which stands at `ends` for a text that begins at `begins`. Without a branch,
+/// the compiler looks at all the places at once.
+bool MayBeginInBlock(const char* begins, const char* ends, EitherCase first, EitherCase last) {
+  unsigned char any = 0;
+  for (std::size_t i = 0; i < kBlock; ++i) {
+    const bool begin = (begins[i] == first.one) | (begins[i] == first.other);
+    const bool end = (ends[i] == last.one) | (ends[i] == last.other);
+    any = static_cast<unsigned char>(any | static_cast<unsigned char>(begin & end));
+  }
+  return any != 0;
+}
+
+bool ContainsNoCase(std::string_view text, std::string_view searched) {
+  if (searched.empty()) return true;
+  if (searched.size() > text.size()) return false;
+  const std::size_t toLast = searched.size() - 1;
+  const std::size_t places = text.size() - toLast;
+  const EitherCase first(searched.front());
+  const EitherCase last(searched.back());
+  const auto beginsIn = [&](std::size_t from, std::size_t to) {
+    for (std::size_t at = from; at < to; ++at) {
+      if (!first.Is(text[at]) || !last.Is(text[at + toLast])) continue;
+      if (EqualNoCase(text.substr(at, searched.size()), searched)) return true;
+    }
+    return false;
+  };
+  if (places < kBlock) return beginsIn(0, places);
+  for (std::size_t next = 0; next < places; next += kBlock) {
+    const std::size_t at = std::min(next, places - kBlock);  // the last two may overlap
+    const char* begins = text.data() + at;
+    if (MayBeginInBlock(begins, begins + toLast, first, last) && beginsIn(at, at + kBlock)) {
+      return true;
+    }
+  }
+  return false;
+}
 
 }  // namespace
 
@@ -144,9 +208,7 @@ std::uint32_t HashNoCase(std::string_view text) {
 
 bool Contains(std::string_view text, std::string_view searched, CompareMethod method) {
   if (method == CompareMethod::Binary) return text.find(searched) != std::string_view::npos;
-  return std::search(text.begin(), text.end(), searched.begin(), searched.end(), EqualFolded) !=
-             text.end() ||
-         searched.empty();
+  return ContainsNoCase(text, searched);
 }
 
 bool IsValidNameChar(int code) {

@@ -50,6 +50,9 @@ class ProgressDisplay {
   /// Shows a text and a bar value from 0 to the top, and lets the interface repaint.
   virtual void Step(const std::string& text, int value) = 0;
   virtual void End() = 0;
+  /// Lets the interface repaint in a long walk that shows no dialog. Cheap enough to be called at
+  /// every turn.
+  virtual void LetRepaint() {}
 };
 
 }  // namespace parlate

@@ -17,6 +17,8 @@
 
 namespace parlate {
 
+struct TextQuery;
+
 /// The window without the window: the one open file, the selection, the tree and the event list as
 /// plain nodes and rows, the clipboard, and every command that works on them. A view shows it.
 ///
@@ -151,6 +153,15 @@ class Shell final : public ConversationDirectory, public ConversationTreeOrder {
   /// A click on the list: a second one on a row deselects it.
   void ListClick();
 
+  // Search. It goes on from hit to hit until it is reset.
+  /// The next search starts anew, at the selected row.
+  void ResetSearch();
+  /// Looks for the text of `cboFind` in the events and selects the next one that holds it; after a
+  /// search without a hit, which it tells, the text of `cboFind` is selected. `searchEventType` is
+  /// 0 for all types, else the type's code plus one.
+  Boolean FindText(ComboBox& cboFind, Boolean bWholeWord, Boolean bMatchCase, Boolean bAllCons,
+                   std::int32_t searchEventType);
+
   // Clipboard.
   void CopySelectedEvent();
   void CutSelectedEvent();
@@ -184,6 +195,10 @@ class Shell final : public ConversationDirectory, public ConversationTreeOrder {
   void TreeViewRemoveConversation(const Conversation& con, std::int32_t oldNPCID);
   [[nodiscard]] bool IsNameTakenByAnother(const Conversation& con, const std::string& name) const;
   [[nodiscard]] FlagRef* SelectedFlag() const;
+  /// Selects the conversation's node if the node that was selected is gone.
+  void KeepNodeSelected(const Conversation& con);
+  bool FindNext(const TextQuery& query, bool bAllCons);
+  void SelectFound(TreeNode& node);
 
   ShellView& view_;
   Doors doors_;
@@ -191,6 +206,8 @@ class Shell final : public ConversationDirectory, public ConversationTreeOrder {
   std::unique_ptr<ConversationFile> conFile_;
   bool bReadOnly_ = false;
   std::shared_ptr<Conversation> selectedCon_;
+  std::int32_t searchConIndex_ = -1;    ///< Node of the last hit; -1 before the first search.
+  std::int32_t searchEventIndex_ = -1;  ///< Event of the last hit, or where a first search begins.
   std::int32_t bAppendEvent_ = 1;  ///< 1 append, 0 insert.
   bool bUpdatingEvents_ = false;   ///< An event is being added: the editor follows no row.
   std::shared_ptr<EventItem> eventBuffer_;
@@ -202,5 +219,9 @@ class Shell final : public ConversationDirectory, public ConversationTreeOrder {
 /// Keeps a selection in the list after the row at `index` went: the row that moved up, else the
 /// last one.
 void ReselectListIndex(ListRows& list, std::int32_t index);
+
+/// Puts the text of the box at the head of its list, unless it is there, and selects the text. Ten
+/// entries are kept.
+void AddComboHistory(ComboBox& combo);
 
 }  // namespace parlate

@@ -54,7 +54,7 @@ void Shell::CutConversation() {
 }
 
 void Shell::PasteConversation() {
-  if (!conBuffer_ || !conFile_) return;
+  if (!conBuffer_ || (!conFile_ && !NewConFile())) return;
   RestoreBufferedTableItems();
   const std::shared_ptr<Conversation> pasted = std::move(conBuffer_);
   conBuffer_ = std::make_shared<Conversation>();

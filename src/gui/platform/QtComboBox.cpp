@@ -59,14 +59,36 @@ void QtComboBox::AddItem(const std::string& text) {
       order_, ListCount(), text, [this](int index) -> const auto& {
         return rows_[static_cast<std::size_t>(index)].text;
       });
-  rows_.insert(rows_.begin() + row, {text, 0});
+  InsertItem(text, row);
+}
+
+void QtComboBox::InsertItem(const std::string& text, int index) {
+  rows_.insert(rows_.begin() + index, {text, 0});
   if (ListCount() > 1) {
     const std::optional<QString> typed = typed_;
-    insertItem(row, ToQString(text));
+    insertItem(index, ToQString(text));
     typed_ = typed;
     return;
   }
   AddFirstItem(text);
+}
+
+void QtComboBox::RemoveItem(int index) {
+  if (!Holds(index)) return;
+  const bool selected = index == ListIndex();
+  const std::optional<QString> typed = selected ? currentText() : typed_;
+  rows_.erase(rows_.begin() + index);
+  {
+    // The toolkit would select the neighbour of a row that goes.
+    const QSignalBlocker silence(this);
+    const QSignalBlocker lineSilence(lineEdit());
+    const QString shown = currentText();
+    if (index == currentIndex()) setCurrentIndex(-1);
+    removeItem(index);
+    if (isEditable()) lineEdit()->setText(shown);
+  }
+  typed_ = typed;
+  TellIfChanged();
 }
 
 void QtComboBox::AddFirstItem(const std::string& text) {

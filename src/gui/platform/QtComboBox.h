@@ -30,6 +30,11 @@ class QtComboBox final : public QComboBox, public ComboBox {
   void Clear() override;
   /// Adds a row with the number 0 behind it. Neither the text nor the selected row changes.
   void AddItem(const std::string& text) override;
+  /// As AddItem, at a place of its own.
+  void InsertItem(const std::string& text, int index) override;
+  /// Removes a row; without one at that index nothing happens. The text stays, also that of the
+  /// row itself.
+  void RemoveItem(int index) override;
   [[nodiscard]] int ListCount() const override { return static_cast<int>(rows_.size()); }
   /// The text of a row, empty for an index without one.
   [[nodiscard]] std::string List(int index) const override;
