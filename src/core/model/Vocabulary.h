@@ -78,4 +78,7 @@ inline constexpr std::array<std::string_view, 15> cameraPositionNames = {
 
 inline constexpr std::array<std::string_view, 2> speechFontNames = {"Normal", "Computer"};
 
+/// Who speaks the choices: the player's character, which has no row of its own.
+inline constexpr std::string_view kPlayerName = "MKHollis";
+
 }  // namespace parlate
