@@ -208,8 +208,8 @@ class Shell final : public ConversationDirectory, public ConversationTreeOrder {
   std::shared_ptr<Conversation> selectedCon_;
   std::int32_t searchConIndex_ = -1;    ///< Node of the last hit; -1 before the first search.
   std::int32_t searchEventIndex_ = -1;  ///< Event of the last hit, or where a first search begins.
-  std::int32_t bAppendEvent_ = 1;  ///< 1 append, 0 insert.
-  bool bUpdatingEvents_ = false;   ///< An event is being added: the editor follows no row.
+  std::int32_t bAppendEvent_ = 1;       ///< 1 append, 0 insert.
+  bool bUpdatingEvents_ = false;        ///< An event is being added: the editor follows no row.
   std::shared_ptr<EventItem> eventBuffer_;
   std::shared_ptr<Conversation> conBuffer_;
   ConversationTree tree_;

@@ -1,9 +1,12 @@
 #include "mainwindow/FormInventory.h"
 
+#include "editors/frmFileProperties.h"
 #include "editors/frmMissingLabels.h"
+#include "editors/frmProperties.h"
 #include "editors/frmSettings.h"
 #include "mainwindow/frmAbout.h"
 #include "mainwindow/frmConvList.h"
+#include "mainwindow/frmFind.h"
 #include "mainwindow/frmProgress.h"
 #include "mainwindow/frmSplash.h"
 
@@ -46,6 +49,32 @@ class LoadedConvList : private NobodyAsked, public frmConvList {
   LoadedConvList() : frmConvList(*this, *this, *this) { shell().UpdateCommandStates(); }
 };
 
+/// A file from nothing, with its properties and those of its first conversation.
+struct NewFile : private NobodyAsked {
+  MessageBoxes& messages = *this;
+  ConversationFile conFile;
+  Conversation con;
+};
+
+class LoadedProperties : private NewFile, public frmProperties {
+ public:
+  LoadedProperties() : frmProperties(conFile, messages) { SetCon(con); }
+};
+
+class LoadedFileProperties : private NewFile, public frmFileProperties {
+ public:
+  LoadedFileProperties() : frmFileProperties(conFile) {}
+};
+
+struct NewWindow {
+  LoadedConvList behind;
+};
+
+class LoadedFind : private NewWindow, public frmFind {
+ public:
+  LoadedFind() : frmFind(behind.shell()) {}
+};
+
 template <class Form>
 FormFactory Factory(const char* name) {
   return {QString::fromLatin1(name), [] { return std::make_unique<Form>(); }};
@@ -61,6 +90,9 @@ std::vector<FormFactory> AllForms() {
       Factory<frmProgress>("frmProgress"),
       Factory<frmMissingLabels>("frmMissingLabels"),
       Factory<LoadedSettings>("frmSettings"),
+      Factory<LoadedFind>("frmFind"),
+      Factory<LoadedProperties>("frmProperties"),
+      Factory<LoadedFileProperties>("frmFileProperties"),
   };
 }
 

@@ -1,13 +1,13 @@
 #pragma once
 
 #include <QAction>
-#include <QComboBox>
 #include <QHash>
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenu>
 #include <QToolBar>
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -15,7 +15,9 @@
 #include "editors/frmSettings.h"
 #include "mainwindow/NameDelegate.h"
 #include "mainwindow/SvgPicture.h"
+#include "mainwindow/frmFind.h"
 #include "mainwindow/frmProgress.h"
+#include "platform/QtComboBox.h"
 #include "shell/Shell.h"
 #include "widgets/ConversationTreeModel.h"
 #include "widgets/ConversationTreeView.h"
@@ -58,6 +60,7 @@ class frmConvList : public QMainWindow, private ShellView, private SettingsHost 
   }
 
  protected:
+  bool event(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -90,6 +93,8 @@ class frmConvList : public QMainWindow, private ShellView, private SettingsHost 
   void BuildToolbar();
   void BuildPanes();
   void ConnectCommands();
+  void ConnectPropertiesCommands();
+  void ConnectFind();
   void ConnectTree();
   void ConnectList();
   void On(const QString& command, std::function<void()> handler);
@@ -113,6 +118,10 @@ class frmConvList : public QMainWindow, private ShellView, private SettingsHost 
   void ToggleExpandList();
   void ToggleShowAudioFiles();
   void FocusFindBox();
+  void ShowFind();
+  void FindQuickly();
+  bool FindBoxEvent(QEvent* event);
+  void FindBoxWindowLeft();
 
   // Splitter
   bool SplitterEvent(QEvent* event);
@@ -136,7 +145,7 @@ class frmConvList : public QMainWindow, private ShellView, private SettingsHost 
   QMenu mnuFlagPopup_{this};
   QToolBar tlbCon_;
   QLabel pnlFind_;
-  QComboBox cboFind_;
+  QtComboBox cboFind_;
   QLabel statusText_;
   QWidget client_;
   QWidget picTitles_;
@@ -148,14 +157,16 @@ class frmConvList : public QMainWindow, private ShellView, private SettingsHost 
   QWidget imgSplitter_;
   QWidget picSplitter_;
   SvgPicture picLogo_;
+  std::unique_ptr<frmFind> find_;  ///< From its first use on, with its history and options.
 
   int splitterLeft_ = 0;     ///< Twips.
   int splitterBarLeft_ = 0;  ///< Twips; of the bar that shows during a drag.
   bool bMovingSplitter_ = false;
   bool sizingColumns_ = false;
-  bool loaded_ = false;        ///< `InitMainWindow` is through, so there are settings to store.
-  bool laidOut_ = false;       ///< The window has its size, so the splitter may be held to it.
-  bool treeHadFocus_ = false;  ///< When the tree was hidden for a while.
+  bool loaded_ = false;           ///< `InitMainWindow` is through, so there are settings to store.
+  bool laidOut_ = false;          ///< The window has its size, so the splitter may be held to it.
+  bool searchedQuickly_ = false;  ///< The last search was that of the quick box.
+  bool treeHadFocus_ = false;     ///< When the tree was hidden for a while.
 };
 
 }  // namespace parlate

@@ -2,11 +2,21 @@
 
 #include <QLineEdit>
 #include <QSignalBlocker>
+#include <QTabWidget>
 
 #include "platform/CodePageInput.h"
 #include "widgets/CodePageText.h"
 
 namespace parlate {
+
+namespace {
+
+bool IsTabPage(const QWidget& part) {
+  const QWidget* pages = part.parentWidget();
+  return qobject_cast<const QTabWidget*>(pages->parentWidget()) != nullptr;
+}
+
+}  // namespace
 
 QtComboBox::QtComboBox(QWidget* parent, RowOrder order) : QComboBox(parent), order_(order) {
   setEditable(true);
@@ -140,6 +150,13 @@ void QtComboBox::SelectText(int start, int length) {
 }
 
 void QtComboBox::SetFocus() { setFocus(Qt::OtherFocusReason); }
+
+bool QtComboBox::Visible() const {
+  for (const QWidget* part = this; !part->isWindow(); part = part->parentWidget()) {
+    if (part->isHidden() && !IsTabPage(*part)) return false;
+  }
+  return window()->isVisible();
+}
 
 void QtComboBox::TakeAsTyped() { typed_ = lineEdit()->text(); }
 

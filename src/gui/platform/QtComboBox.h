@@ -50,7 +50,8 @@ class QtComboBox final : public QComboBox, public ComboBox {
   void SetText(const std::string& text) override;
   void SelectText(int start, int length) override;
   void SetFocus() override;
-  [[nodiscard]] bool Visible() const override { return isVisible(); }
+  /// Also on a page of a tabbed form that is turned away; not in a panel that is hidden.
+  [[nodiscard]] bool Visible() const override;
 
  signals:
   /// ListIndex or the text changed, by hand or by the program.
