@@ -58,7 +58,7 @@ class frmFileProperties : public QDialog {
   // In the order in which Tab visits them.
   QTabWidget tabProperties{this};
 
-  QWidget pageMissions;
+  QWidget pageMissions{&tabProperties};
   QLabel lblMissions{&pageMissions};
   QtListBox lstMissions{&pageMissions, RowOrder::ByName};
   QPushButton cmdAdd{&pageMissions};
@@ -68,19 +68,19 @@ class frmFileProperties : public QDialog {
   QLabel lblMissionsAvailable{&pageMissions};
   QtListBox lstMissionsAvailable{&pageMissions, RowOrder::ByName};
 
-  QWidget pageMisc;
+  QWidget pageMisc{&tabProperties};
   QLabel lblAudioPackage{&pageMisc};
   QLineEdit txtAudioPackage{&pageMisc};
   QLabel lblNotes{&pageMisc};
   QtTextBox txtNotes{&pageMisc};
 
-  QWidget pageStats;
+  QWidget pageStats{&tabProperties};
   QLabel lblStats{&pageStats};
   MultiColumnList lstStats{statRows_, &pageStats};
   QPushButton cmdPrint{&pageStats};
   QPushButton cmdExport{&pageStats};
 
-  QWidget pageInfo;
+  QWidget pageInfo{&tabProperties};
   QFrame SSFrame1{&pageInfo};
   QLabel lblVersion{&SSFrame1};
   QLabel panVersion{&SSFrame1};

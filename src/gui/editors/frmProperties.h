@@ -85,7 +85,7 @@ class frmProperties : public QDialog {
   // In the order in which Tab visits them.
   QTabWidget tabProperties{this};
 
-  QWidget pageGeneral;
+  QWidget pageGeneral{&tabProperties};
   QLabel lblName{&pageGeneral};
   QLineEdit txtName{&pageGeneral};
   QLabel lblNPC{&pageGeneral};
@@ -96,13 +96,13 @@ class frmProperties : public QDialog {
   QLabel lblNotes{&pageGeneral};
   QtTextBox txtNotes{&pageGeneral};
 
-  QWidget pageFlags;
+  QWidget pageFlags{&tabProperties};
   QLabel Label2{&pageFlags};
   MultiColumnList lstFlags{flagRows_, &pageFlags};
   QPushButton cmdFlagAdd{&pageFlags};
   QPushButton cmdFlagRemove{&pageFlags};
 
-  QWidget pageInvoke;
+  QWidget pageInvoke{&tabProperties};
   QLabel Label3{&pageInvoke};
   QCheckBox chkInvokeFrob{&pageInvoke};
   QCheckBox chkInvokeBump{&pageInvoke};
@@ -111,7 +111,7 @@ class frmProperties : public QDialog {
   QLabel lblInvokeRadius{&pageInvoke};
   QLineEdit txtInvokeRadius{&pageInvoke};
 
-  QWidget pageOptions;
+  QWidget pageOptions{&tabProperties};
   QLabel Label4{&pageOptions};
   QCheckBox chkDisplayOnce{&pageOptions};
   QCheckBox chkHoloCall{&pageOptions};
@@ -121,7 +121,7 @@ class frmProperties : public QDialog {
   QCheckBox chkCanBeInterupted{&pageOptions};
   QCheckBox chkCannotBeInterrupted{&pageOptions};
 
-  QWidget pageInfo;
+  QWidget pageInfo{&tabProperties};
   QLabel lblCreationDate{&pageInfo};
   QLabel panCreationDate{&pageInfo};
   QLabel lblCreatedBy{&pageInfo};

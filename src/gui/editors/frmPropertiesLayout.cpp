@@ -20,6 +20,7 @@ constexpr int kRadiusIndent = 20;
 constexpr int kFlagColumn = 260;
 constexpr int kValueColumn = 80;
 constexpr int kTextLines = 4;
+constexpr int kMoreWidth = 60;
 
 void SetLines(QPlainTextEdit& box, int lines) {
   box.setMinimumHeight(box.fontMetrics().lineSpacing() * lines + 2 * box.frameWidth() + 8);
@@ -122,6 +123,8 @@ void frmProperties::BuildLayout() {
   auto* form = new QVBoxLayout(this);
   form->addWidget(&tabProperties, 1);
   form->addLayout(buttons);
+  // Left to themselves the two texts ask for more height than most of them need.
+  resize(sizeHint().width() + kMoreWidth, minimumSizeHint().height());
 }
 
 void frmProperties::BuildGeneral() {

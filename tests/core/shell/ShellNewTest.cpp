@@ -246,12 +246,13 @@ TEST_F(ShellProperties, ACancelledPickOfFlagsChangesNothing) {
 }
 
 TEST_F(ShellProperties, PastingWithNoFileOpenStartsANewOne) {
+  Click("C1");
   Window().CopyConversation();
   ASSERT_TRUE(Window().CloseConFile());
   program_.view.answerFileProperties = [this] { Window().SetModified(true, nullptr); };
   Window().PasteConversation();
   ASSERT_NE(Window().GetConFile(), nullptr);
-  EXPECT_EQ(ConOf(0).conName, "greeting");
+  EXPECT_EQ(ConOf(0).conName, "Arrival");
   EXPECT_EQ(GetTableItemName(kActorTable, ConOf(0).NPCID), "Zoe");
   EXPECT_EQ(Window().SelectedCon().get(), &ConOf(0));
 }

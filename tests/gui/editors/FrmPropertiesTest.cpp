@@ -10,6 +10,7 @@
 #include "editors/frmProperties.h"
 #include "mainwindow/WindowFixture.h"
 #include "platform/Modal.h"
+#include "platform/QtListBox.h"
 #include "support/TestWorkspace.h"
 
 namespace parlate {

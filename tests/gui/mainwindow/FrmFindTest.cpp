@@ -146,13 +146,26 @@ TEST_F(FindTest, TheDialogStepsFromHitToHitThroughAllConversations) {
     ExpectAt(0, 0);
     user.Find();
     ExpectAt(0, 2);
+    user.Find();
+    ExpectAt(0, 0);
+    EXPECT_THAT(user.History(), ElementsAre("h"));
+  });
+}
+
+TEST_F(FindTest, FindFirstComesBackAfterAFailedSearch) {
+  InDialog([this](FindUser& user) {
+    user.Type("comment");
+    user.Find();
+    EXPECT_EQ(user.Button().text(), "Find Next");
     program_.messages.Expect(Answer::Ok);
     user.Find();
     ExpectNotFoundBox(1);
     EXPECT_EQ(user.Button().text(), "Find First");
     EXPECT_TRUE(user.Text().hasFocus());
-    EXPECT_EQ(user.Text().lineEdit()->selectedText(), "h");
-    EXPECT_THAT(user.History(), ElementsAre("h"));
+    EXPECT_EQ(user.Text().lineEdit()->selectedText(), "comment");
+    user.Find();
+    ExpectAt(0, 1);
+    EXPECT_EQ(user.Button().text(), "Find Next");
   });
 }
 
@@ -318,22 +331,24 @@ TEST_F(FindTest, LosingTheFocusBeginsTheQuickSearchAnewAtTheSelectedRow) {
 
 TEST_F(FindTest, ChoosingAnEntryOfTheQuickBoxSearches) {
   program_.ClickNode("C0");
-  Search("hi");
   Search("comment");
-  ExpectAt(0, 1);
+  Search("hi");
+  ExpectAt(0, 2);
   EXPECT_EQ(Box().ListCount(), 2);
+  program_.ClickRow(0);
   // The list opens below, with the newest on top.
+  Box().setFocus();
   Box().showPopup();
   QTest::keyClick(Box().view(), Qt::Key_End);
   QTest::keyClick(Box().view(), Qt::Key_Return);
-  EXPECT_EQ(Box().Text(), "hi");
-  ExpectAt(0, 2);
+  EXPECT_EQ(Box().Text(), "comment");
+  ExpectAt(0, 1);
 }
 
 TEST_F(FindTest, TheWheelOverTheQuickBoxChoosesNothing) {
   program_.ClickNode("C0");
-  Search("hi");
   Search("comment");
+  Search("hi");
   const QString before = Box().currentText();
   QWheelEvent wheel(QPointF(5, 5), Box().mapToGlobal(QPointF(5, 5)), {}, QPoint(0, -120),
                     Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
