@@ -33,6 +33,7 @@ frmProperties::frmProperties(const ConversationFile& conFile, MessageBoxes& mess
   BuildLayout();
   flags_.SetFlags(localFlagRefs);
   tabProperties.setCurrentIndex(kGeneralTab);
+  txtName.setFocus();
   PopulateCombo(cboNPC, *GetTable(kActorTable));
   RefreshPropertiesOK();
   RefreshFlagRemove();

@@ -314,6 +314,11 @@ TEST_F(FrmPropertiesTest, OkIsLiveWhateverTabIsShown) {
   EXPECT_EQ(Form().modalResult, 0);
 }
 
+TEST_F(FrmPropertiesTest, TheFormOpensWithTheNameReadyToBeTyped) {
+  Form();
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Name().hasFocus(); }));
+}
+
 TEST_F(FrmPropertiesTest, TypingInTheNameDropsWhatNoNameHas) {
   Type(Name(), QStringLiteral(u"A b?c-1_.\u00E4;Z"));
   EXPECT_EQ(Name().text(), "Abc-1_Z");
