@@ -146,6 +146,7 @@ int Measure(const parlate::bench::FileShape& shape, const std::string& folder,
     inOnePiece.push_back(Milliseconds(
         [&] { found = found || parlate::Contains(text, searched, parlate::CompareMethod::Text); }));
   }
+  shell.CloseConFile();  // and let its lock go
   if (found || window.boxes != kRounds) {
     std::fprintf(stderr, "the text was found\n");
     return 2;

@@ -87,30 +87,38 @@ char32_t TakeCodePoint(std::string_view& utf8) {
 
 bool EqualFolded(char left, char right) { return FoldCase(left) == FoldCase(right); }
 
-/// A character in either case.
-struct EitherCase {
-  explicit EitherCase(char character)
-      : one(character), other(kOtherCase[static_cast<unsigned char>(character)]) {}
-  [[nodiscard]] bool Is(char c) const { return c == one || c == other; }
+/// Eight characters side by side.
+using Eight = std::uint64_t;
+constexpr std::size_t kBlock = sizeof(Eight);
+constexpr Eight kLowBits = 0x0101010101010101;
+constexpr Eight kHighBits = 0x8080808080808080;
 
-  char one;
-  char other;
-};
-
-constexpr std::size_t kBlock = 16;
-
-/// Whether a text may begin at one of the places of a block, `first` being its first character and
-/// `last` its last, which stands at `ends` for a text that begins at `begins`. Without a branch,
-/// the compiler looks at all the places at once.
-bool MayBeginInBlock(const char* begins, const char* ends, EitherCase first, EitherCase last) {
-  unsigned char any = 0;
-  for (std::size_t i = 0; i < kBlock; ++i) {
-    const bool begin = (begins[i] == first.one) | (begins[i] == first.other);
-    const bool end = (ends[i] == last.one) | (ends[i] == last.other);
-    any = static_cast<unsigned char>(any | static_cast<unsigned char>(begin & end));
-  }
-  return any != 0;
+Eight Read(const char* text) {
+  Eight eight = 0;
+  std::memcpy(&eight, text, sizeof(eight));
+  return eight;
 }
+
+/// A character in either case.
+class EitherCase {
+ public:
+  explicit EitherCase(char character)
+      : one_(character), other_(kOtherCase[static_cast<unsigned char>(character)]) {}
+
+  [[nodiscard]] bool Is(char c) const { return c == one_ || c == other_; }
+  /// The high bit of each of eight characters that is this one. Another one may be marked besides.
+  [[nodiscard]] Eight Mark(Eight eight) const {
+    return MarkZero(eight ^ allOne_) | MarkZero(eight ^ allOther_);
+  }
+
+ private:
+  static Eight MarkZero(Eight eight) { return (eight - kLowBits) & ~eight & kHighBits; }
+
+  char one_;
+  char other_;
+  Eight allOne_ = kLowBits * static_cast<unsigned char>(one_);
+  Eight allOther_ = kLowBits * static_cast<unsigned char>(other_);
+};
 
 bool ContainsNoCase(std::string_view text, std::string_view searched) {
   if (searched.empty()) return true;
@@ -130,9 +138,8 @@ bool ContainsNoCase(std::string_view text, std::string_view searched) {
   for (std::size_t next = 0; next < places; next += kBlock) {
     const std::size_t at = std::min(next, places - kBlock);  // the last two may overlap
     const char* begins = text.data() + at;
-    if (MayBeginInBlock(begins, begins + toLast, first, last) && beginsIn(at, at + kBlock)) {
-      return true;
-    }
+    const Eight marked = first.Mark(Read(begins)) & last.Mark(Read(begins + toLast));
+    if (marked != 0 && beginsIn(at, at + kBlock)) return true;
   }
   return false;
 }
