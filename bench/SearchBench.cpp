@@ -25,7 +25,6 @@ namespace {
 
 using parlate::Conversation;
 using parlate::EventItem;
-using parlate::bench::Keep;
 using parlate::bench::Median;
 using parlate::bench::Milliseconds;
 
@@ -161,9 +160,7 @@ int Measure(const parlate::bench::FileShape& shape, const std::string& folder,
   return checks && ratio > kTarget ? 1 : 0;
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+int Run(int argc, char** argv) {
   CLI::App app("Times a search that finds nothing against a memory search.");
   parlate::bench::FileShape shape;
   std::string folder = std::filesystem::temp_directory_path().string();
@@ -175,8 +172,14 @@ int main(int argc, char** argv) {
   app.add_option("--text", searched, "A text that occurs nowhere");
   app.add_flag("--check", checks, "End with 1 when the target is missed");
   CLI11_PARSE(app, argc, argv);
+  return Measure(shape, folder, searched, checks);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
   try {
-    return Measure(shape, folder, searched, checks);
+    return Run(argc, argv);
   } catch (const std::exception& error) {
     std::fprintf(stderr, "%s\n", error.what());
     return 2;
