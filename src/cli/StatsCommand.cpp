@@ -1,6 +1,7 @@
 #include <memory>
 #include <ostream>
 #include <string>
+#include <vector>
 
 #include "cli/Commands.h"
 #include "cli/Json.h"
@@ -25,10 +26,12 @@ Json ToJson(const SpeakerStats& stats) {
 
 void WriteTable(std::ostream& out, const SpeakerStats& stats) {
   TextTable table({"Speaker", "Lines"});
-  for (const SpeakerRow& row : stats.Rows()) {
-    table.AddRow({ToUtf8(row.name), std::to_string(row.lines)});
-  }
-  table.Write(out);
+  const auto cells = [](const SpeakerRow& row) {
+    return std::vector<std::string>{ToUtf8(row.name), std::to_string(row.lines)};
+  };
+  for (const SpeakerRow& row : stats.Rows()) table.Measure(cells(row));
+  table.WriteHead(out);
+  for (const SpeakerRow& row : stats.Rows()) table.WriteRow(out, cells(row));
   out << "\nSpeakers: " << stats.totalSpeakers << "\nLines: " << stats.totalLines << '\n';
 }
 

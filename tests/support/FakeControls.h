@@ -55,6 +55,15 @@ class FakeComboBox final : public ComboBox {
     }
     entries.insert(at, FakeRow{newText});
   }
+  void InsertItem(const std::string& newText, int index) override {
+    entries.insert(entries.begin() + index, FakeRow{newText});
+    if (selected >= index) ++selected;
+  }
+  void RemoveItem(int index) override {
+    entries.erase(entries.begin() + index);
+    if (selected == index) selected = -1;
+    if (selected > index) --selected;
+  }
   [[nodiscard]] int ListCount() const override { return static_cast<int>(entries.size()); }
   [[nodiscard]] std::string List(int index) const override {
     return entries.at(static_cast<std::size_t>(index)).text;

@@ -47,8 +47,10 @@ class RecordingProgress final : public ProgressDisplay {
   void Step(const std::string& text, int value) override;
   void StepBelow(const std::string& text, int value) override;
   void End() override { showing = false; }
+  void LetRepaint() override { ++repaints; }
 
   bool showing = false;
+  int repaints = 0;
   std::string caption;
   std::vector<int> tops;
   std::vector<std::string> texts;

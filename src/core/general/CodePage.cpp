@@ -29,6 +29,20 @@ constexpr std::array<char, 256> MakeFoldTable() {
 
 constexpr std::array<char, 256> kFold = MakeFoldTable();
 
+/// The other character of a pair that differs in case, or the character itself: no three characters
+/// fold to one.
+constexpr std::array<char, 256> MakeOtherCaseTable() {
+  std::array<char, 256> table{};
+  for (std::size_t i = 0; i < table.size(); ++i) table[i] = kFold[i];
+  for (std::size_t i = 0; i < table.size(); ++i) {
+    const auto folded = static_cast<unsigned char>(kFold[i]);
+    if (folded != i) table[folded] = static_cast<char>(static_cast<unsigned char>(i));
+  }
+  return table;
+}
+
+constexpr std::array<char, 256> kOtherCase = MakeOtherCaseTable();
+
 void AppendUtf8(std::string& out, char16_t codePoint) {
   if (codePoint < 0x80) {
     out += static_cast<char>(codePoint);
@@ -72,6 +86,63 @@ char32_t TakeCodePoint(std::string_view& utf8) {
 }
 
 bool EqualFolded(char left, char right) { return FoldCase(left) == FoldCase(right); }
+
+/// Eight characters side by side.
+using Eight = std::uint64_t;
+constexpr std::size_t kBlock = sizeof(Eight);
+constexpr Eight kLowBits = 0x0101010101010101;
+constexpr Eight kHighBits = 0x8080808080808080;
+
+Eight Read(const char* text) {
+  Eight eight = 0;
+  std::memcpy(&eight, text, sizeof(eight));
+  return eight;
+}
+
+/// A character in either case.
+class EitherCase {
+ public:
+  explicit EitherCase(char character)
+      : one_(character), other_(kOtherCase[static_cast<unsigned char>(character)]) {}
+
+  [[nodiscard]] bool Is(char c) const { return c == one_ || c == other_; }
+  /// The high bit of each of eight characters that is this one. Another one may be marked besides.
+  [[nodiscard]] Eight Mark(Eight eight) const {
+    return MarkZero(eight ^ allOne_) | MarkZero(eight ^ allOther_);
+  }
+
+ private:
+  static Eight MarkZero(Eight eight) { return (eight - kLowBits) & ~eight & kHighBits; }
+
+  char one_;
+  char other_;
+  Eight allOne_ = kLowBits * static_cast<unsigned char>(one_);
+  Eight allOther_ = kLowBits * static_cast<unsigned char>(other_);
+};
+
+bool ContainsNoCase(std::string_view text, std::string_view searched) {
+  if (searched.empty()) return true;
+  if (searched.size() > text.size()) return false;
+  const std::size_t toLast = searched.size() - 1;
+  const std::size_t places = text.size() - toLast;
+  const EitherCase first(searched.front());
+  const EitherCase last(searched.back());
+  const auto beginsIn = [&](std::size_t from, std::size_t to) {
+    for (std::size_t at = from; at < to; ++at) {
+      if (!first.Is(text[at]) || !last.Is(text[at + toLast])) continue;
+      if (EqualNoCase(text.substr(at, searched.size()), searched)) return true;
+    }
+    return false;
+  };
+  if (places < kBlock) return beginsIn(0, places);
+  for (std::size_t next = 0; next < places; next += kBlock) {
+    const std::size_t at = std::min(next, places - kBlock);  // the last two may overlap
+    const char* begins = text.data() + at;
+    const Eight marked = first.Mark(Read(begins)) & last.Mark(Read(begins + toLast));
+    if (marked != 0 && beginsIn(at, at + kBlock)) return true;
+  }
+  return false;
+}
 
 }  // namespace
 
@@ -144,9 +215,7 @@ std::uint32_t HashNoCase(std::string_view text) {
 
 bool Contains(std::string_view text, std::string_view searched, CompareMethod method) {
   if (method == CompareMethod::Binary) return text.find(searched) != std::string_view::npos;
-  return std::search(text.begin(), text.end(), searched.begin(), searched.end(), EqualFolded) !=
-             text.end() ||
-         searched.empty();
+  return ContainsNoCase(text, searched);
 }
 
 std::string UpperCase(std::string_view text) {

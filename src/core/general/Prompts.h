@@ -66,6 +66,9 @@ class ProgressDisplay {
   /// As `Step`, with the text on a line of its own under the bar; the first text stays.
   virtual void StepBelow(const std::string& text, int value) { Step(text, value); }
   virtual void End() = 0;
+  /// Lets the interface repaint in a long walk that shows no dialog. Cheap enough to be called at
+  /// every turn.
+  virtual void LetRepaint() {}
 };
 
 }  // namespace parlate

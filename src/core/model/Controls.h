@@ -12,6 +12,9 @@ class ComboBox {
   virtual ~ComboBox() = default;
   virtual void Clear() = 0;
   virtual void AddItem(const std::string& text) = 0;
+  /// Puts an entry ahead of the one at `index`, also in a control that sorts its entries.
+  virtual void InsertItem(const std::string& text, int index) = 0;
+  virtual void RemoveItem(int index) = 0;
   [[nodiscard]] virtual int ListCount() const = 0;
   [[nodiscard]] virtual std::string List(int index) const = 0;
   [[nodiscard]] virtual std::int32_t ItemData(int index) const = 0;

@@ -20,6 +20,7 @@
 namespace parlate {
 
 class PrintPages;
+struct TextQuery;
 
 /// The window without the window: the one open file, the selection, the tree and the event list as
 /// plain nodes and rows, the clipboard, and every command that works on them. A view shows it.
@@ -163,6 +164,15 @@ class Shell final : public ConversationDirectory, public ConversationTreeOrder {
   /// A click on the list: a second one on a row deselects it.
   void ListClick();
 
+  // Search. It goes on from hit to hit until it is reset.
+  /// The next search starts anew, at the selected row.
+  void ResetSearch();
+  /// Looks for the text of `cboFind` in the events and selects the next one that holds it; after a
+  /// search without a hit, which it tells, the text of `cboFind` is selected. `searchEventType` is
+  /// 0 for all types, else the type's code plus one.
+  Boolean FindText(ComboBox& cboFind, Boolean bWholeWord, Boolean bMatchCase, Boolean bAllCons,
+                   std::int32_t searchEventType);
+
   // Clipboard.
   void CopySelectedEvent();
   void CutSelectedEvent();
@@ -214,6 +224,10 @@ class Shell final : public ConversationDirectory, public ConversationTreeOrder {
   void SelectRowOf(const EventItem* eventObj);
   /// Whether the row that the event names is its own.
   [[nodiscard]] bool IsAtItsRow(const EventItem& event) const;
+  /// Selects the conversation's node if the node that was selected is gone.
+  void KeepNodeSelected(const Conversation& con);
+  bool FindNext(const TextQuery& query, bool bAllCons);
+  void SelectFound(TreeNode& node);
 
   ShellView& view_;
   Doors doors_;
@@ -221,13 +235,19 @@ class Shell final : public ConversationDirectory, public ConversationTreeOrder {
   std::unique_ptr<ConversationFile> conFile_;
   bool bReadOnly_ = false;
   std::shared_ptr<Conversation> selectedCon_;
-  std::int32_t bAppendEvent_ = 1;  ///< 1 append, 0 insert.
-  bool bUpdatingEvents_ = false;   ///< An event is being added: the editor follows no row.
+  std::int32_t searchConIndex_ = -1;    ///< Node of the last hit; -1 before the first search.
+  std::int32_t searchEventIndex_ = -1;  ///< Event of the last hit, or where a first search begins.
+  std::int32_t bAppendEvent_ = 1;       ///< 1 append, 0 insert.
+  bool bUpdatingEvents_ = false;        ///< An event is being added: the editor follows no row.
   std::shared_ptr<EventItem> eventBuffer_;
   ConversationClipboard conClipboard_;
   ConversationTree tree_;
   FlagTexts loadingFlagTexts_;  ///< Of the file that is being read.
   ListRows events_;
 };
+
+/// Puts the text of the box at the head of its list, unless it is there, and selects the text. Ten
+/// entries are kept.
+void AddComboHistory(ComboBox& combo);
 
 }  // namespace parlate

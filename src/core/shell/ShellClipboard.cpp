@@ -47,7 +47,7 @@ void Shell::CutConversation() {
 }
 
 void Shell::PasteConversation() {
-  if (!conClipboard_.Holds() || !conFile_) return;
+  if (!conClipboard_.Holds() || (!conFile_ && !NewConFile())) return;
   TreeViewAddConversation(conClipboard_.Paste(*conFile_), true);
   SetModified(true, nullptr);
   UpdateCommandStates();

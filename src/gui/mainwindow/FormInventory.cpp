@@ -3,16 +3,19 @@
 #include "editors/frmCameraProperties.h"
 #include "editors/frmChoiceEdit.h"
 #include "editors/frmEditValue.h"
-#include "editors/frmExport.h"
 #include "editors/frmEvent.h"
+#include "editors/frmExport.h"
+#include "editors/frmFileProperties.h"
 #include "editors/frmFlagList.h"
 #include "editors/frmImport.h"
 #include "editors/frmMissingLabels.h"
 #include "editors/frmPlayAudio.h"
+#include "editors/frmProperties.h"
 #include "editors/frmSettings.h"
 #include "editors/frmTableEdit.h"
 #include "mainwindow/frmAbout.h"
 #include "mainwindow/frmConvList.h"
+#include "mainwindow/frmFind.h"
 #include "mainwindow/frmProgress.h"
 #include "mainwindow/frmSplash.h"
 
@@ -113,6 +116,32 @@ class LoadedPlayAudio : public frmPlayAudio {
   LoadedPlayAudio() : frmPlayAudio(NoFolder) {}
 };
 
+/// A file from nothing, with its properties and those of its first conversation.
+struct NewFile : private NobodyAsked {
+  MessageBoxes& messages = *this;
+  ConversationFile conFile;
+  Conversation con;
+};
+
+class LoadedProperties : private NewFile, public frmProperties {
+ public:
+  LoadedProperties() : frmProperties(conFile, messages) { SetCon(con); }
+};
+
+class LoadedFileProperties : private NewFile, public frmFileProperties {
+ public:
+  LoadedFileProperties() : frmFileProperties(conFile) {}
+};
+
+struct NewWindow {
+  LoadedConvList behind;
+};
+
+class LoadedFind : private NewWindow, public frmFind {
+ public:
+  LoadedFind() : frmFind(behind.shell()) {}
+};
+
 template <class Form>
 FormFactory Factory(const char* name) {
   return {QString::fromLatin1(name), [] { return std::make_unique<Form>(); }};
@@ -137,6 +166,9 @@ std::vector<FormFactory> AllForms() {
       Factory<LoadedPlayAudio>("frmPlayAudio"),
       Factory<LoadedExport>("frmExport"),
       Factory<LoadedImport>("frmImport"),
+      Factory<LoadedFind>("frmFind"),
+      Factory<LoadedProperties>("frmProperties"),
+      Factory<LoadedFileProperties>("frmFileProperties"),
   };
 }
 

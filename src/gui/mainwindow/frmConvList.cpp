@@ -170,6 +170,7 @@ void frmConvList::closeEvent(QCloseEvent* event) {
 void frmConvList::Unload() {
   if (!loaded_) return;
   loaded_ = false;
+  find_.reset();
   StoreDefaults();
   Defaults().SaveDefaults(settings_);
 }

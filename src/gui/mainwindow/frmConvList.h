@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QAction>
-#include <QComboBox>
 #include <QHash>
 #include <QLabel>
 #include <QMainWindow>
@@ -17,7 +16,9 @@
 #include "editors/frmSettings.h"
 #include "mainwindow/NameDelegate.h"
 #include "mainwindow/SvgPicture.h"
+#include "mainwindow/frmFind.h"
 #include "mainwindow/frmProgress.h"
+#include "platform/QtComboBox.h"
 #include "shell/Shell.h"
 #include "widgets/ConversationTreeModel.h"
 #include "widgets/ConversationTreeView.h"
@@ -65,6 +66,7 @@ class frmConvList : public QMainWindow,
   }
 
  protected:
+  bool event(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -105,6 +107,8 @@ class frmConvList : public QMainWindow,
   void ConnectEventCommands();
   void ConnectTableCommands();
   void ConnectInterchangeCommands();
+  void ConnectPropertiesCommands();
+  void ConnectFind();
   void ConnectTree();
   void ConnectList();
   void On(const QString& command, std::function<void()> handler);
@@ -128,6 +132,10 @@ class frmConvList : public QMainWindow,
   void ToggleExpandList();
   void ToggleShowAudioFiles();
   void FocusFindBox();
+  void ShowFind();
+  void FindQuickly();
+  bool FindBoxEvent(QEvent* event);
+  void FindBoxWindowLeft();
 
   // Splitter
   bool SplitterEvent(QEvent* event);
@@ -153,7 +161,7 @@ class frmConvList : public QMainWindow,
   QMenu mnuFlagPopup_{this};
   QToolBar tlbCon_;
   QLabel pnlFind_;
-  QComboBox cboFind_;
+  QtComboBox cboFind_;
   QLabel statusText_;
   QWidget client_;
   QWidget picTitles_;
@@ -166,14 +174,16 @@ class frmConvList : public QMainWindow,
   QWidget picSplitter_;
   SvgPicture picLogo_;
   std::unique_ptr<frmEvent> eventEditor_;  ///< Nothing until its first use.
+  std::unique_ptr<frmFind> find_;          ///< From its first use on, with its history and options.
 
   int splitterLeft_ = 0;     ///< Twips.
   int splitterBarLeft_ = 0;  ///< Twips; of the bar that shows during a drag.
   bool bMovingSplitter_ = false;
   bool sizingColumns_ = false;
-  bool loaded_ = false;        ///< `InitMainWindow` is through, so there are settings to store.
-  bool laidOut_ = false;       ///< The window has its size, so the splitter may be held to it.
-  bool treeHadFocus_ = false;  ///< When the tree was hidden for a while.
+  bool loaded_ = false;           ///< `InitMainWindow` is through, so there are settings to store.
+  bool laidOut_ = false;          ///< The window has its size, so the splitter may be held to it.
+  bool searchedQuickly_ = false;  ///< The last search was that of the quick box.
+  bool treeHadFocus_ = false;     ///< When the tree was hidden for a while.
 };
 
 }  // namespace parlate

@@ -1,7 +1,6 @@
 // What the commands, the tree and the list of the main window do.
 
 #include <QKeyEvent>
-#include <QLineEdit>
 
 #include "mainwindow/frmAbout.h"
 #include "mainwindow/frmConvList.h"
@@ -46,7 +45,6 @@ void frmConvList::ConnectCommands() {
   On("mnuConCopy", [this] { shell_.CopyConversation(); });
   On("mnuConPaste", paste);
   On("mnuConCheckLabels", [this] { shell_.CheckLabelsCommand(); });
-  On("mnuConFind", [this] { FocusFindBox(); });
   On("mnuConExpandAll", expandAll);
   On("mnuConPopupExpandAll", expandAll);
   On("mnuConCollapseAll", collapseAll);
@@ -80,6 +78,8 @@ void frmConvList::ConnectCommands() {
   });
   connect(Command("mnuCon")->menu(), &QMenu::aboutToShow, this,
           [this] { shell_.UpdateCommandStates(); });
+  ConnectPropertiesCommands();
+  ConnectFind();
 }
 
 void frmConvList::ConnectTree() {
@@ -117,6 +117,7 @@ void frmConvList::TreeKeyReleased(int key, Qt::KeyboardModifiers modifiers) {
   if (key == Qt::Key_V) shell_.PasteConversation();
   const bool plain = (modifiers & ~Qt::KeypadModifier) == Qt::NoModifier;
   if (key == Qt::Key_Delete && plain) shell_.DeleteConversation(false);
+  if (key == Qt::Key_Insert && plain && shell_.SelectedCon()) shell_.AddConversation();
 }
 
 void frmConvList::ConnectList() {
@@ -157,20 +158,6 @@ void frmConvList::ToggleExpandList() {
 void frmConvList::ToggleShowAudioFiles() {
   Workspace::Current().defaults.bShowAudioFiles = Command("mnuViewShowAudioFiles")->isChecked();
   shell_.UpdateEventsList(shell_.SelectedCon());
-}
-
-void frmConvList::FocusFindBox() {
-  if (!tlbCon_.isVisible()) {
-    Command("mnuViewToolbar")->setChecked(true);
-    ApplyToolbarVisible();
-  }
-  // In a window too narrow for the box nothing may be typed into the tree, where letters cut.
-  if (!cboFind_.isVisible()) {
-    lstEvents_.setFocus();
-    return;
-  }
-  cboFind_.setFocus(Qt::ShortcutFocusReason);
-  cboFind_.lineEdit()->selectAll();
 }
 
 }  // namespace parlate

@@ -1,7 +1,9 @@
 // The dialogs and the editor that the main window opens for the shell.
 
 #include "editors/FlagListEdit.h"
+#include "editors/frmFileProperties.h"
 #include "editors/frmMissingLabels.h"
+#include "editors/frmProperties.h"
 #include "mainwindow/frmConvList.h"
 
 namespace parlate {
@@ -17,9 +19,18 @@ bool frmConvList::ShowMissingLabels(const std::vector<BadLabelRow>& rows, bool b
   return dialog.ShowMissingLabels(rows, bSaving);
 }
 
-int frmConvList::ShowProperties(Conversation&, int) { return 1; }
+int frmConvList::ShowProperties(Conversation& con, int tabIndex) {
+  frmProperties dialog(*shell_.GetConFile(), messages_, this);
+  dialog.SetCon(con);
+  dialog.SetTab(tabIndex);
+  dialog.exec();
+  return dialog.modalResult;
+}
 
-void frmConvList::ShowFileProperties() {}
+void frmConvList::ShowFileProperties() {
+  frmFileProperties dialog(*shell_.GetConFile(), this);
+  dialog.exec();
+}
 
 bool frmConvList::PickFlags(FlagList& flagRefs) {
   return parlate::PickFlags(flagRefs, false, this);

@@ -146,6 +146,7 @@ void frmConvList::ApplyStatusBarVisible() {
 
 bool frmConvList::eventFilter(QObject* watched, QEvent* event) {
   if (watched == &imgSplitter_) return SplitterEvent(event);
+  if (watched == &cboFind_) return FindBoxEvent(event);
   // The bars come and go round the client area, which then changes without the window.
   if (watched == &client_ && event->type() == QEvent::Resize && laidOut_ && !isMinimized()) {
     SizeControls(splitterLeft_);

@@ -8,7 +8,6 @@
 #include "mainwindow/MenuItem.h"
 #include "mainwindow/frmConvList.h"
 #include "model/Vocabulary.h"
-#include "platform/CodePageInput.h"
 
 namespace parlate {
 
@@ -252,11 +251,9 @@ void frmConvList::BuildToolbar() {
   pnlFind_.setContentsMargins(12, 0, 6, 0);
   cboFind_.setObjectName(QStringLiteral("cboFind"));
   cboFind_.setAccessibleName(pnlFind_.text());
-  cboFind_.setEditable(true);
-  cboFind_.setInsertPolicy(QComboBox::NoInsert);
+  // Typing offers none of the texts that were found before, so Return searches.
   cboFind_.setCompleter(nullptr);
   cboFind_.setMinimumWidth(190);
-  KeepToCodePage(cboFind_);
   tlbCon_.addWidget(&pnlFind_);
   tlbCon_.addWidget(&cboFind_);
   addToolBar(&tlbCon_);

@@ -123,6 +123,12 @@ void frmProgress::End() {
   if (wasActive && parentWidget() != nullptr) parentWidget()->window()->activateWindow();
 }
 
+void frmProgress::LetRepaint() {
+  if (sinceRepaint_.isValid() && !sinceRepaint_.hasExpired(kPaintEveryMs)) return;
+  LetInterfacePaint();
+  sinceRepaint_.start();
+}
+
 void frmProgress::PaintIfDue() {
   if (isVisible() && sincePaint_.hasExpired(kPaintEveryMs)) PaintNow();
 }

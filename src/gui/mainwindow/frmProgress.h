@@ -28,6 +28,7 @@ class frmProgress : public QDialog, public ProgressDisplay {
   void Step(const std::string& text, int value) override;
   void StepBelow(const std::string& text, int value) override;
   void End() override;
+  void LetRepaint() override;
 
   /// The same for the second text and bar.
   void SetTop2(int top);
@@ -48,6 +49,7 @@ class frmProgress : public QDialog, public ProgressDisplay {
   QLabel lblText2{this};
   QProgressBar barProgress2{this};
   QElapsedTimer sincePaint_;
+  QElapsedTimer sinceRepaint_;  ///< Of the interface, with this window hidden.
   bool lastStateDue_ = false;
 };
 

@@ -34,6 +34,32 @@ void ComboRows::Add(const std::string& text) {
   if (amongTold) endInsertRows();
 }
 
+void ComboRows::Insert(const std::string& text, int index) {
+  beginInsertRows({}, index, index);
+  if (order_ == RowOrder::AsAdded) {
+    rows_.insert(rows_.begin() + index, {text, 0});
+  } else {
+    sorted_.insert(sorted_.begin() + index, static_cast<std::uint32_t>(rows_.size()));
+    rows_.push_back({text, 0});
+  }
+  ++told_;
+  endInsertRows();
+}
+
+void ComboRows::Remove(int index) {
+  beginRemoveRows({}, index, index);
+  const std::size_t place = PlaceOf(index);
+  rows_.erase(rows_.begin() + static_cast<std::ptrdiff_t>(place));
+  if (order_ == RowOrder::ByName) {
+    sorted_.erase(sorted_.begin() + index);
+    for (std::uint32_t& other : sorted_) {
+      if (other > place) --other;
+    }
+  }
+  --told_;
+  endRemoveRows();
+}
+
 void ComboRows::Clear() {
   const bool wasTold = told_ > 0;
   if (wasTold) beginResetModel();

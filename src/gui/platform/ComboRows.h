@@ -32,6 +32,10 @@ class ComboRows final : public QAbstractListModel {
 
   /// Puts a row in its place.
   void Add(const std::string& text);
+  /// Puts a row at a place of its own; it must be one of 0 to Count, and nothing may be pending.
+  void Insert(const std::string& text, int index);
+  /// Takes a row away; the index must have one, and nothing may be pending.
+  void Remove(int index);
   void Clear();
   /// Whether the next rows to be told are the first that the toolkit hears of.
   [[nodiscard]] bool FirstRowsPending() const { return told_ == 0 && !rows_.empty(); }

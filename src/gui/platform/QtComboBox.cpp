@@ -3,12 +3,22 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QSignalBlocker>
+#include <QTabWidget>
 #include <limits>
 
 #include "platform/CodePageInput.h"
 #include "widgets/CodePageText.h"
 
 namespace parlate {
+
+namespace {
+
+bool IsTabPage(const QWidget& part) {
+  const QWidget* pages = part.parentWidget();
+  return qobject_cast<const QTabWidget*>(pages->parentWidget()) != nullptr;
+}
+
+}  // namespace
 
 QtComboBox::QtComboBox(QWidget* parent, RowOrder order) : QComboBox(parent), rows_(order) {
   setModel(&rows_);
@@ -67,6 +77,38 @@ void QtComboBox::AddItem(const std::string& text) {
   rows_.Add(text);
   adding_ = false;
   if (currentIndex() != -1) TellIfChanged();
+}
+
+void QtComboBox::InsertItem(const std::string& text, int index) {
+  if (ListCount() == 0) {
+    AddItem(text);
+    return;
+  }
+  TellRows();
+  const std::optional<QString> typed = typed_;
+  adding_ = true;
+  rows_.Insert(text, index);
+  adding_ = false;
+  typed_ = typed;
+  if (currentIndex() != -1) TellIfChanged();
+}
+
+void QtComboBox::RemoveItem(int index) {
+  if (rows_.At(index) == nullptr) return;
+  TellRows();
+  const bool selected = index == ListIndex();
+  const std::optional<QString> typed = selected ? currentText() : typed_;
+  {
+    // The toolkit would select the neighbour of a row that goes.
+    const QSignalBlocker silence(this);
+    const QSignalBlocker lineSilence(lineEdit());
+    const QString shown = currentText();
+    if (index == currentIndex()) setCurrentIndex(-1);
+    rows_.Remove(index);
+    if (isEditable()) lineEdit()->setText(shown);
+  }
+  typed_ = typed;
+  TellIfChanged();
 }
 
 void QtComboBox::TellRows() {
@@ -169,6 +211,13 @@ void QtComboBox::TakeAsTyped() {
   TellRows();
   completer_.setModel(&rows_);
   typed_ = lineEdit()->text();
+}
+
+bool QtComboBox::Visible() const {
+  for (const QWidget* part = this; !part->isWindow(); part = part->parentWidget()) {
+    if (part->isHidden() && !IsTabPage(*part)) return false;
+  }
+  return window()->isVisible();
 }
 
 void QtComboBox::TellIfChanged() {

@@ -30,6 +30,11 @@ class QtComboBox final : public QComboBox, public ComboBox {
   /// Adds a row with the number 0 behind it. Neither the text nor the selected row changes.
   void AddItem(const std::string& text) override;
   [[nodiscard]] int ListCount() const override { return rows_.Count(); }
+  /// As AddItem, at a place of its own.
+  void InsertItem(const std::string& text, int index) override;
+  /// Removes a row; without one at that index nothing happens. The text stays, also that of the
+  /// row itself.
+  void RemoveItem(int index) override;
   /// The text of a row, empty for an index without one.
   [[nodiscard]] std::string List(int index) const override;
   /// The number behind a row, 0 for an index without one.
@@ -44,7 +49,8 @@ class QtComboBox final : public QComboBox, public ComboBox {
   void SetText(const std::string& text) override;
   void SelectText(int start, int length) override;
   void SetFocus() override;
-  [[nodiscard]] bool Visible() const override { return isVisible(); }
+  /// Also on a page of a tabbed form that is turned away; not in a panel that is hidden.
+  [[nodiscard]] bool Visible() const override;
 
   void showPopup() override;
 

@@ -129,6 +129,38 @@ TEST(CodePage, SearchesByByteOrWithoutCase) {
   EXPECT_EQ(static_cast<int>(CompareMethod::Text), 1);
 }
 
+TEST(CodePage, ATextIsFoundWhereverItStandsInALongOne) {
+  for (const std::string searched : {"X", "Xy", "XyZ", "XyzzyAndMoreOfIt"}) {
+    for (std::size_t length = 0; length < 70; ++length) {
+      const std::string filler(length, 'x');
+      EXPECT_EQ(Contains(filler, searched, CompareMethod::Text), searched == "X" && length > 0)
+          << searched << " in " << length;
+      for (std::size_t at = 0; at <= length; ++at) {
+        std::string text(length, '-');
+        text.insert(at, searched);
+        EXPECT_TRUE(Contains(text, FoldCase(searched), CompareMethod::Text)) << at << text;
+        EXPECT_TRUE(Contains(FoldCase(text), searched, CompareMethod::Text)) << at << text;
+      }
+    }
+  }
+}
+
+TEST(CodePage, EveryPairOfCasesIsFoundBothWays) {
+  for (int byte = 0; byte < 256; ++byte) {
+    const std::string character(1, static_cast<char>(byte));
+    const std::string longText = std::string(40, '\x01') + character;
+    const std::string folded(1, FoldCase(static_cast<char>(byte)));
+    EXPECT_TRUE(Contains(longText, folded, CompareMethod::Text)) << byte;
+    EXPECT_TRUE(Contains(std::string(40, '\x01') + folded, character, CompareMethod::Text)) << byte;
+  }
+}
+
+TEST(CodePage, AnEmptyTextOccursEverywhere) {
+  EXPECT_TRUE(Contains("", "", CompareMethod::Text));
+  EXPECT_TRUE(Contains("a", "", CompareMethod::Binary));
+  EXPECT_FALSE(Contains("", "a", CompareMethod::Text));
+}
+
 TEST(ValidName, AllowsDigitsLettersDashUnderscoreAndBackspaceOnly) {
   const std::string allowed = "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz-_\b";
   for (int i = -1; i <= kBytes; ++i) {

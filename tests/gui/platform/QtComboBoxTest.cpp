@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QLineEdit>
 #include <QSignalSpy>
+#include <QTabWidget>
 #include <QTest>
 #include <QVBoxLayout>
 #include <array>
@@ -392,6 +393,63 @@ TEST(SortedQtComboBox, RowsAmongAndBehindThoseOfTheToolkitKeepTheirPlaces) {
     EXPECT_EQ(combo.itemText(i), names[static_cast<std::size_t>(i)]);
     EXPECT_EQ(combo.List(i), names[static_cast<std::size_t>(i)]);
   }
+}
+
+TEST_F(QtComboBoxTest, ARowCanBePutAtAPlaceOfItsOwnWhateverIsTyped) {
+  Fill({"Anna", "Bo"});
+  Type("Cy");
+  combo_.InsertItem("Cy", 0);
+  EXPECT_EQ(combo_.List(0), "Cy");
+  EXPECT_EQ(combo_.itemText(0), "Cy");
+  EXPECT_EQ(combo_.List(2), "Bo");
+  EXPECT_EQ(combo_.ItemData(1), 10);
+  EXPECT_EQ(combo_.Text(), "Cy");
+  EXPECT_EQ(combo_.ListIndex(), -1);
+}
+
+TEST_F(QtComboBoxTest, ARowPutAheadOfTheSelectedOneLeavesItSelected) {
+  Fill({"Anna", "Bo"});
+  combo_.SetListIndex(1);
+  combo_.InsertItem("Cy", 0);
+  EXPECT_EQ(combo_.ListIndex(), 2);
+  EXPECT_EQ(combo_.Text(), "Bo");
+}
+
+TEST_F(QtComboBoxTest, RemovingARowLeavesTheTextAlsoThatOfTheRowItself) {
+  Fill({"Anna", "Bo", "Cy"});
+  combo_.SetListIndex(1);
+  combo_.RemoveItem(2);
+  EXPECT_EQ(combo_.ListCount(), 2);
+  EXPECT_EQ(combo_.ListIndex(), 1);
+  combo_.RemoveItem(1);
+  EXPECT_EQ(combo_.Text(), "Bo");
+  EXPECT_EQ(combo_.ListIndex(), -1);
+  combo_.RemoveItem(5);
+  combo_.RemoveItem(0);
+  EXPECT_EQ(combo_.ListCount(), 0);
+  EXPECT_EQ(combo_.count(), 0);
+  EXPECT_EQ(combo_.Text(), "Bo");
+}
+
+TEST_F(QtComboBoxTest, IsVisibleOnATabThatIsTurnedAwayAndNotInAHiddenPanel) {
+  QTabWidget tabs;
+  auto* first = new QWidget;
+  auto* second = new QWidget;
+  QtComboBox onFirst(first);
+  QWidget panel(second);
+  QtComboBox inPanel(&panel);
+  tabs.addTab(first, "1");
+  tabs.addTab(second, "2");
+  EXPECT_FALSE(onFirst.Visible());
+  tabs.show();
+  EXPECT_TRUE(onFirst.Visible());
+  EXPECT_TRUE(inPanel.Visible());
+  tabs.setCurrentIndex(1);
+  EXPECT_TRUE(onFirst.Visible());
+  panel.hide();
+  EXPECT_FALSE(inPanel.Visible());
+  onFirst.hide();
+  EXPECT_FALSE(onFirst.Visible());
 }
 
 }  // namespace
