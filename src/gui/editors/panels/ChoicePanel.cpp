@@ -148,8 +148,10 @@ void ChoicePanel::MoveChoiceDown() {
 }
 
 void ChoicePanel::MoveChoice(std::int32_t step) {
-  const auto from = static_cast<std::size_t>(rows_.ListIndex());
-  const auto to = static_cast<std::size_t>(rows_.ListIndex() + step);
+  const std::int32_t selected = rows_.ListIndex();
+  const std::int32_t moved = selected + step;
+  const auto from = static_cast<std::size_t>(selected);
+  const auto to = static_cast<std::size_t>(moved);
   const std::int32_t id = SelectedID();
   auto& choices = currentChoiceEvent_->Choices;
   const auto choice = choices.Share(id);
@@ -161,7 +163,7 @@ void ChoicePanel::MoveChoice(std::int32_t step) {
     row.text = choice->BuildChoiceString();
     rows_.RemoveItem(from);
     rows_.InsertItem(std::move(row), to);
-    rows_.SetListIndex(static_cast<std::int32_t>(to));
+    rows_.SetListIndex(moved);
   }
   choices.Remove(id);
   if (to + 1 < rows_.ListCount()) {
