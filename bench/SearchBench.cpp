@@ -9,6 +9,7 @@
 #include <exception>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -51,6 +52,7 @@ class NoWindow final : public parlate::ShellView,
   int ShowProperties(Conversation&, int) override { return 1; }
   void ShowFileProperties() override {}
   bool PickFlags(parlate::FlagList&) override { return false; }
+  std::optional<parlate::PrintChoice> ShowPrintOptions(bool, bool) override { return std::nullopt; }
 
   parlate::Answer Show(const parlate::MessageBox&) override {
     ++boxes;

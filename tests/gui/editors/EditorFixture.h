@@ -11,6 +11,7 @@
 #include "platform/Modal.h"
 #include "platform/QtComboBox.h"
 #include "platform/QtListBox.h"
+#include "support/ScriptedTableEditor.h"
 #include "support/TestWorkspace.h"
 
 namespace parlate::testing_support {
@@ -54,17 +55,5 @@ inline bool IsEnabled(const QWidget& form, const char* name) {
 inline QLineEdit& TextOf(const QWidget& form, const char* name) {
   return ControlNamed<QLineEdit>(form, name);
 }
-
-/// A table editor whose user does as the test says.
-class ScriptedTableEditor final : public TableEditor {
- public:
-  std::int32_t EditTableDialog(std::int32_t tableType) override {
-    opened.push_back(tableType);
-    return user ? user() : -1;
-  }
-
-  std::vector<std::int32_t> opened;
-  std::function<std::int32_t()> user;
-};
 
 }  // namespace parlate::testing_support

@@ -11,6 +11,7 @@
 #include "mainwindow/WindowFixture.h"
 #include "platform/Modal.h"
 #include "platform/QtListBox.h"
+#include "support/ScriptedTableEditor.h"
 #include "support/TestWorkspace.h"
 
 namespace parlate {
@@ -24,19 +25,6 @@ constexpr const char* kBadCharacters =
 constexpr const char* kNameInUse = "Conversation Name already in use, please choose another name.";
 
 enum Tab { kGeneral, kFlags, kInvoke, kOptions, kInfo };
-
-class ScriptedTableEditor final : public TableEditor {
- public:
-  std::int32_t EditTableDialog(std::int32_t tableType) override {
-    opened.push_back(tableType);
-    if (edit) edit();
-    return chosen;
-  }
-
-  std::vector<std::int32_t> opened;
-  std::function<void()> edit;
-  std::int32_t chosen = -1;
-};
 
 /// The properties of "greeting", which belongs to Zoe, beside "other".
 class FrmPropertiesTest : public ::testing::Test {
@@ -385,8 +373,10 @@ TEST_F(FrmPropertiesTest, TheTableButtonEditsTheActorsAndSelectsTheOneChosenTher
   Click("cmdEditNPCTable");
   EXPECT_THAT(tables_.opened, ElementsAre(kActorTable));
   EXPECT_EQ(Form().NPCID(), 0);
-  tables_.edit = [this] { space_.AddRows(kActorTable, {{7, "New"}}); };
-  tables_.chosen = 7;
+  tables_.user = [this] {
+    space_.AddRows(kActorTable, {{7, "New"}});
+    return 7;
+  };
   Click("cmdEditNPCTable");
   EXPECT_EQ(Owner().Text(), "New");
   EXPECT_TRUE(IsEnabled("cmdOK"));
@@ -481,7 +471,10 @@ TEST_F(FrmPropertiesTest, AFlagIsPickedAndReachesTheConversationOnOkOnly) {
 
 TEST_F(FrmPropertiesTest, AFlagDeletedFromItsTableInThePickerGoesAlsoAfterCancel) {
   GoTo(kFlags);
-  tables_.edit = [] { GetTable(kFlagTable)->Remove(2); };
+  tables_.user = [] {
+    GetTable(kFlagTable)->Remove(2);
+    return -1;
+  };
   WhenFormShows("frmFlagList", [](QWidget& picker) {
     QTest::mouseClick(&ControlNamed<QPushButton>(picker, "cmdEdit"), Qt::LeftButton);
     QTest::mouseClick(&ControlNamed<QPushButton>(picker, "cmdCancel"), Qt::LeftButton);

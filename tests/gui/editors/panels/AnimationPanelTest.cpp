@@ -176,7 +176,7 @@ TEST_F(AnimationPanelTest, AnyModeButZeroIsShownAsPlayedOnceAndANegativeLengthAs
 TEST_F(AnimationPanelTest, TheSmallButtonEditsTheActors) {
   tables_.chosen = 2;
   Click("cmdEditNPCTable(1)");
-  EXPECT_EQ(tables_.edited, std::vector<std::int32_t>{0});
+  EXPECT_EQ(tables_.opened, std::vector<std::int32_t>{0});
   EXPECT_EQ(Combo("cboPawnAnimate").Text(), "Bob");
 }
 

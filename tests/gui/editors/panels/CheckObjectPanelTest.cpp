@@ -109,7 +109,7 @@ TEST_F(CheckObjectPanelTest, TheSmallButtonEditsTheObjectsAndTakesTheOneSelected
   tables_.chosen = 9;
   changed_.clear();
   Click("cmdCheckObject");
-  EXPECT_EQ(tables_.edited, std::vector<std::int32_t>{3});
+  EXPECT_EQ(tables_.opened, std::vector<std::int32_t>{3});
   EXPECT_EQ(Combo("cboCheckObject").Text(), "Lockpick");
   EXPECT_GE(changed_.size(), 1);
 }

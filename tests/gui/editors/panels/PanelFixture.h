@@ -20,22 +20,11 @@
 #include "platform/Modal.h"
 #include "platform/QtComboBox.h"
 #include "platform/TextField.h"
+#include "support/ScriptedTableEditor.h"
 #include "support/TestWorkspace.h"
 #include "widgets/CodePageText.h"
 
 namespace parlate::testing_support {
-
-/// A table editor in which the user selects a row, or none.
-class ScriptedTableEditor final : public TableEditor {
- public:
-  std::int32_t EditTableDialog(std::int32_t tableType) override {
-    edited.push_back(tableType);
-    return chosen;
-  }
-
-  std::vector<std::int32_t> edited;
-  std::int32_t chosen = -1;
-};
 
 /// One panel in a window of its own, with rows in the tables of actors (2, 4) and objects (7, 9).
 template <class Panel>

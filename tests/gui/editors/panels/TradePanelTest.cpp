@@ -68,7 +68,7 @@ TEST_F(TradePanelTest, AnActorThatIsGoneIsShownAsNone) {
 TEST_F(TradePanelTest, TheSmallButtonEditsTheActorsAndKeepsTheOneChosenBefore) {
   Combo("cboPawnTrade").SetListIndex(1);
   Click("cmdEditNPCTable(2)");
-  EXPECT_EQ(tables_.edited, std::vector<std::int32_t>{0});
+  EXPECT_EQ(tables_.opened, std::vector<std::int32_t>{0});
   EXPECT_EQ(Combo("cboPawnTrade").Text(), "Zoe");
 }
 

@@ -161,7 +161,7 @@ TEST_F(TransferObjectPanelTest, EachButtonEditsTheTableOfItsCombo) {
   tables_.chosen = 4;
   Click("cmdTransferTo");
   EXPECT_EQ(Combo("cboTransferTo").Text(), "Zoe");
-  EXPECT_EQ(tables_.edited, (std::vector<std::int32_t>{3, 0, 0}));
+  EXPECT_EQ(tables_.opened, (std::vector<std::int32_t>{3, 0, 0}));
 }
 
 TEST_F(TransferObjectPanelTest, LeavingAnUnknownEntryAsksInEachCombo) {
