@@ -38,6 +38,11 @@ frmChoiceEdit::frmChoiceEdit(PanelHost& host, AudioFolder audioFolder, QWidget* 
   RefreshSkillControls();
 }
 
+frmChoiceEdit::~frmChoiceEdit() {
+  // The pages go one by one, and none of them is entered any more.
+  tabChoice.disconnect(this);
+}
+
 void frmChoiceEdit::ConnectControls() {
   connect(&txtChoice, &QLineEdit::textChanged, this, &frmChoiceEdit::RefreshChoiceOK);
   connect(&cboSkillLevels, &QtComboBox::choiceChanged, this, &frmChoiceEdit::RefreshChoiceOK);

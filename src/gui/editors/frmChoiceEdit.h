@@ -28,6 +28,7 @@ class frmChoiceEdit : public QDialog {
  public:
   /// The event editor offers its labels and audio files; both must outlive the dialog.
   frmChoiceEdit(PanelHost& host, AudioFolder audioFolder, QWidget* parent = nullptr);
+  ~frmChoiceEdit() override;
 
   std::int32_t modalResult = 1;  ///< 0 after OK, 1 after Cancel or when the window is closed.
   std::shared_ptr<ChoiceItem> localChoiceItem;

@@ -26,8 +26,9 @@ bool HoldsMission(const ConversationFile& conFile, std::int32_t id) {
 
 }  // namespace
 
-frmFileProperties::frmFileProperties(ConversationFile& conFile, QWidget* parent)
-    : QDialog(parent), conFile_(conFile) {
+frmFileProperties::frmFileProperties(ConversationFile& conFile, QWidget* parent,
+                                     StatsPrinter printStats)
+    : QDialog(parent), conFile_(conFile), printStats_(std::move(printStats)) {
   SetUpControls();
   BuildLayout();
   ShowFields();
@@ -58,6 +59,9 @@ void frmFileProperties::Connect() {
           [this] { Move(lstMissions, lstMissionsAvailable, Which::All); });
   connect(&txtAudioPackage, &QLineEdit::textChanged, this, &frmFileProperties::RefreshFileButtons);
   connect(&tabProperties, &QTabWidget::currentChanged, this, &frmFileProperties::EnterTab);
+  connect(&cmdPrint, &QPushButton::clicked, this, [this] {
+    if (printStats_) printStats_(stats_);
+  });
   connect(&cmdOK, &QPushButton::clicked, this, &frmFileProperties::accept);
   connect(&cmdCancel, &QPushButton::clicked, this, &frmFileProperties::reject);
 }

@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTabWidget>
+#include <functional>
 
 #include "model/ConversationFile.h"
 #include "model/SpeakerStats.h"
@@ -22,8 +23,12 @@ class frmFileProperties : public QDialog {
   Q_OBJECT
 
  public:
-  /// `conFile` is the open file.
-  explicit frmFileProperties(ConversationFile& conFile, QWidget* parent = nullptr);
+  /// Puts the statistics on paper.
+  using StatsPrinter = std::function<void(const SpeakerStats&)>;
+
+  /// `conFile` is the open file. Without `printStats` the button of that name does nothing.
+  explicit frmFileProperties(ConversationFile& conFile, QWidget* parent = nullptr,
+                             StatsPrinter printStats = {});
   ~frmFileProperties() override;
 
  public slots:
@@ -53,6 +58,7 @@ class frmFileProperties : public QDialog {
 
   ConversationFile& conFile_;
   SpeakerStats stats_;
+  StatsPrinter printStats_;
   ListRows statRows_;
 
   // In the order in which Tab visits them.

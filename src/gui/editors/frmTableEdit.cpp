@@ -10,6 +10,7 @@
 #include "platform/CodePageInput.h"
 #include "platform/FormControls.h"
 #include "platform/NameKeys.h"
+#include "printing/TablePages.h"
 #include "widgets/CodePageText.h"
 
 namespace parlate {
@@ -87,7 +88,15 @@ void frmTableEdit::ConnectControls() {
   connect(&cmdEdit, &QPushButton::clicked, this, &frmTableEdit::RenameRow);
   connect(&cmdDelete, &QPushButton::clicked, this, &frmTableEdit::DeleteRow);
   connect(&cmdDeleteUnused, &QPushButton::clicked, this, &frmTableEdit::DeleteUnused);
+  connect(&cmdPrint, &QPushButton::clicked, this, &frmTableEdit::PrintRows);
   connect(&cmdClose, &QPushButton::clicked, this, &frmTableEdit::reject);
+}
+
+void frmTableEdit::PrintRows() {
+  if (doors_.printers == nullptr) return;
+  std::vector<std::string> rows;
+  for (int i = 0; i < lstTable.ListCount(); ++i) rows.push_back(lstTable.List(i));
+  PrintTable(rows, tableName_, {*doors_.printers, doors_.messages});
 }
 
 std::int32_t frmTableEdit::EditTable(std::int32_t newTableType) {

@@ -36,6 +36,7 @@ class frmTableEdit : public QDialog {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  void PrintRows();
   void SetUpControls();
   void BuildLayout();
   void ConnectControls();

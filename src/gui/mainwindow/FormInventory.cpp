@@ -10,6 +10,7 @@
 #include "editors/frmImport.h"
 #include "editors/frmMissingLabels.h"
 #include "editors/frmPlayAudio.h"
+#include "editors/frmPrintCons.h"
 #include "editors/frmProperties.h"
 #include "editors/frmSettings.h"
 #include "editors/frmTableEdit.h"
@@ -133,6 +134,11 @@ class LoadedFileProperties : private NewFile, public frmFileProperties {
   LoadedFileProperties() : frmFileProperties(conFile) {}
 };
 
+class LoadedPrintCons : private NobodyBehind, private NobodyAsked, public frmPrintCons {
+ public:
+  LoadedPrintCons() : frmPrintCons(defaults, *this) {}
+};
+
 struct NewWindow {
   LoadedConvList behind;
 };
@@ -167,6 +173,7 @@ std::vector<FormFactory> AllForms() {
       Factory<LoadedExport>("frmExport"),
       Factory<LoadedImport>("frmImport"),
       Factory<LoadedFind>("frmFind"),
+      Factory<LoadedPrintCons>("frmPrintCons"),
       Factory<LoadedProperties>("frmProperties"),
       Factory<LoadedFileProperties>("frmFileProperties"),
   };

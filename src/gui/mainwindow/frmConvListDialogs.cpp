@@ -4,7 +4,9 @@
 #include "editors/frmFileProperties.h"
 #include "editors/frmMissingLabels.h"
 #include "editors/frmProperties.h"
+#include "general/Paths.h"
 #include "mainwindow/frmConvList.h"
+#include "printing/TablePages.h"
 
 namespace parlate {
 
@@ -28,7 +30,10 @@ int frmConvList::ShowProperties(Conversation& con, int tabIndex) {
 }
 
 void frmConvList::ShowFileProperties() {
-  frmFileProperties dialog(*shell_.GetConFile(), this);
+  frmFileProperties dialog(*shell_.GetConFile(), this, [this](const SpeakerStats& stats) {
+    if (printers_ == nullptr) return;
+    PrintStats(stats, GetFileOnly(shell_.conFileName), {*printers_, messages_});
+  });
   dialog.exec();
 }
 

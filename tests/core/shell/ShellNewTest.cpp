@@ -234,7 +234,7 @@ TEST_F(ShellProperties, FlagsPickedInThePopupShowInTheTreeAndMarkNothing) {
     return true;
   };
   Window().AddFlags();
-  EXPECT_EQ(Window().tvCons().FindNode("F3,0")->text, "Lamp = True");
+  EXPECT_EQ(Window().tvCons().FindNode("F3,0")->Text(), "Lamp = True");
   EXPECT_FALSE(Window().GetConFile()->IsModified());
 }
 

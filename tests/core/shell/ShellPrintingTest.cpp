@@ -36,6 +36,7 @@ class ShellPrinting : public ShellTest {
 };
 
 TEST_F(ShellPrinting, OfAllTakesTheConversationsInTheOrderOfTheFile) {
+  program_.progress.texts.clear();
   Window().PrintConversations(true, false);
   EXPECT_THAT(Titles(), ElementsAre("Conversation: Zoe - greeting", "Conversation: Alex - Leaving"))
       << "one without events has no title";

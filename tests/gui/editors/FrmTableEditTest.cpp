@@ -503,7 +503,7 @@ TEST_F(FrmTableEditTest, CloseShowsNewActorNamesInTheTreeAndADoubleClickDoesNot)
 }
 
 TEST_F(FrmTableEditTest, CloseShowsNewFlagNamesInTheTree) {
-  const auto flag = [this] { return program_.shell().tvCons().FindNode("F2,0")->text; };
+  const auto flag = [this] { return program_.shell().tvCons().FindNode("F2,0")->Text(); };
   EXPECT_EQ(flag(), "Door = True");
   Edit(kFlagTable, [](QWidget& form) {
     ClickRow(form, 0);

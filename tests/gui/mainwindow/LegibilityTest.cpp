@@ -6,6 +6,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QLabel>
+#include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
 
@@ -22,6 +23,12 @@ bool ShowsItsText(const QWidget& control) {
   if (const auto* label = qobject_cast<const QLabel*>(&control)) {
     if (label->text().isEmpty()) return true;
     if (label->wordWrap()) return label->height() >= label->heightForWidth(label->width());
+  }
+  if (const auto* button = qobject_cast<const QPushButton*>(&control)) {
+    // A small button beside a field is narrower than the style makes it for itself.
+    const QString text = QString(button->text()).remove(u'&');
+    const QSize needed = button->fontMetrics().size(0, text);
+    return button->width() > needed.width() && button->height() > needed.height();
   }
   const QSize wanted = control.sizeHint();
   return control.width() >= wanted.width() && control.height() >= wanted.height();

@@ -95,7 +95,7 @@ class NewFile : public WindowTest {
     ASSERT_NE(program.shell().SelectedCon(), nullptr);
     EXPECT_EQ(program.shell().tvCons().FindNode("A0")->text, "Marta");
     EXPECT_EQ(program.shell().tvCons().FindNode("C0")->text, "Firsttalk");
-    EXPECT_EQ(program.shell().tvCons().FindNode("F0,0")->text, "Door = False");
+    EXPECT_EQ(program.shell().tvCons().FindNode("F0,0")->Text(), "Door = False");
   }
 
   static void PickFlag(QWidget& form) {
@@ -269,7 +269,7 @@ TEST_F(Harbour, TheFlagPopupAddsAFlagAndMarksNothing) {
     Press(picker, "cmdOK");
   });
   program_.Choose("mnuFlagPopupAdd");
-  EXPECT_EQ(program_.shell().tvCons().FindNode("F3,1")->text, "Lamp = True");
+  EXPECT_EQ(program_.shell().tvCons().FindNode("F3,1")->Text(), "Lamp = True");
   EXPECT_EQ(ConOf(1).flagRefs.Count(), 1U);
   EXPECT_FALSE(program_.shell().GetConFile()->IsModified());
   Leave();

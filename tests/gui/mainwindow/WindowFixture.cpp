@@ -14,7 +14,7 @@ std::string MapSettings::Get(const std::string&, const std::string&, const std::
 RunningProgram::RunningProgram(const std::string& username) {
   workspace.now = [] { return kSavedAt; };
   if (!username.empty()) settings.values["Username"] = username;
-  window_ = std::make_unique<frmConvList>(messages, dialogs, settings);
+  window_ = std::make_unique<frmConvList>(messages, dialogs, settings, &printers);
 }
 
 bool RunningProgram::Start(const std::string& commandLine) {

@@ -12,6 +12,7 @@
 
 #include "mainwindow/frmConvList.h"
 #include "model/Workspace.h"
+#include "support/RecordingSurface.h"
 #include "support/SampleFile.h"
 #include "support/ScriptedPrompts.h"
 #include "support/TemporaryFolder.h"
@@ -69,6 +70,7 @@ class RunningProgram {
   ScriptedMessageBoxes messages;
   ScriptedFileDialogs dialogs;
   MapSettings settings;
+  RecordingPrinters printers;
 
  private:
   std::unique_ptr<frmConvList> window_;
