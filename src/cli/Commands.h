@@ -3,8 +3,12 @@
 #include <CLI/CLI.hpp>
 #include <functional>
 #include <iosfwd>
+#include <memory>
 #include <string>
 #include <vector>
+
+#include "general/BinaryFile.h"
+#include "general/PrintSurface.h"
 
 namespace parlate::cli {
 
@@ -13,6 +17,9 @@ struct Streams {
   std::ostream& out;
   std::ostream& err;
 };
+
+/// Makes paper of a PDF that is written to a sink.
+using PdfMaker = std::function<std::unique_ptr<PrintSurface>(std::shared_ptr<ByteSink> out)>;
 
 /// Exit codes that a script can trust.
 enum ExitCode : int {
@@ -33,8 +40,12 @@ void AddAudioCommand(CLI::App& app, const Streams& streams, int& result);
 void AddStatsCommand(CLI::App& app, const Streams& streams, int& result);
 void AddPasteCommand(CLI::App& app, const Streams& streams, int& result);
 
+/// Without a maker of PDFs the command says that this build cannot print.
+void AddPrintCommand(CLI::App& app, const PdfMaker& makePdf, int& result);
+
 /// Runs the tool on its arguments, without the program's name, and returns the exit code. A failure
 /// is one line on `err` that begins with "parlate-cli: ".
-int Run(const std::vector<std::string>& arguments, const Streams& streams);
+int Run(const std::vector<std::string>& arguments, const Streams& streams,
+        const PdfMaker& makePdf = {});
 
 }  // namespace parlate::cli

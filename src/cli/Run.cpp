@@ -44,7 +44,8 @@ int ParseAndRun(CLI::App& app, std::vector<std::string> arguments, const Streams
 
 }  // namespace
 
-int Run(const std::vector<std::string>& arguments, const Streams& streams) {
+int Run(const std::vector<std::string>& arguments, const Streams& streams,
+        const PdfMaker& makePdf) {
   CLI::App app("Works on conversation files without the editor.", "parlate-cli");
   app.set_version_flag("--version", PARLATE_VERSION);
   app.require_subcommand(1);
@@ -58,6 +59,7 @@ int Run(const std::vector<std::string>& arguments, const Streams& streams) {
   AddAudioCommand(app, streams, result);
   AddStatsCommand(app, streams, result);
   AddPasteCommand(app, streams, result);
+  AddPrintCommand(app, makePdf, result);
   return ParseAndRun(app, arguments, streams, result);
 }
 

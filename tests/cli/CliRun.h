@@ -16,11 +16,11 @@ struct Ran {
 };
 
 /// Runs the tool in this process.
-inline Ran RunTool(const std::vector<std::string>& arguments) {
+inline Ran RunTool(const std::vector<std::string>& arguments, const PdfMaker& makePdf = {}) {
   std::ostringstream out;
   std::ostringstream err;
   Ran ran;
-  ran.code = Run(arguments, {out, err});
+  ran.code = Run(arguments, {out, err}, makePdf);
   ran.out = out.str();
   ran.err = err.str();
   return ran;

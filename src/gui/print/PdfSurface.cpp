@@ -48,6 +48,8 @@ class FontsWithoutDisplay {
   FontsWithoutDisplay() {
     if (QCoreApplication::instance() != nullptr) return;
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    // What the toolkit has to say of a desktop that is not there is nothing to a tool's user.
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     application_.emplace(argc_, argv_);
   }
 

@@ -1,0 +1,7 @@
+#include "cli/PdfPrinting.h"
+
+namespace parlate::cli {
+
+PdfMaker PdfPrinting() { return {}; }
+
+}  // namespace parlate::cli
