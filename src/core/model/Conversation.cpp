@@ -1,6 +1,9 @@
 #include "model/Conversation.h"
 
 #include <algorithm>
+#include <set>
+#include <utility>
+#include <vector>
 
 #include "general/RuntimeError.h"
 #include "model/Tables.h"
@@ -136,7 +139,17 @@ void Conversation::RemoveConversationLinks(std::int32_t conKey) {
 }
 
 void Conversation::FixTableReferences() {
-  for (const BufferItem& item : Workspace::Current().tables.tableBuffer) {
+  const std::vector<BufferItem>& buffer = Workspace::Current().tables.tableBuffer;
+  IDSet newIDs;
+  for (const BufferItem& item : buffer) {
+    if (item.ID != item.RestoredID) newIDs.Add(item.RestoredID);
+  }
+  std::set<std::pair<std::int32_t, std::int32_t>> sent;
+  for (const BufferItem& item : buffer) {
+    // A row stands in the buffer once for each reference to it. Once is enough, unless another
+    // row's new ID is its old one and brings references back.
+    const bool again = !sent.emplace(item.tableType, item.ID).second;
+    if (again && !newIDs.Contains(item.ID)) continue;
     ChangeConTableLink(item.tableType, item.ID, item.RestoredID);
   }
 }

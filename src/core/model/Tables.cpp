@@ -1,6 +1,7 @@
 #include "model/Tables.h"
 
 #include <memory>
+#include <unordered_map>
 
 #include "model/Workspace.h"
 
@@ -131,15 +132,24 @@ void BufferTableItem(std::int32_t tableType, std::int32_t id) {
   BufferItem item;
   item.tableType = tableType;
   item.ID = id;
-  item.Name = GetTableItemName(tableType, id);
+  std::shared_ptr<const std::string>& name = Current().bufferedNames[{tableType, id}];
+  if (!name) name = std::make_shared<const std::string>(GetTableItemName(tableType, id));
+  item.Name = name;
   Current().tableBuffer.push_back(std::move(item));
 }
 
-void ClearTableBuffer() { Current().tableBuffer.clear(); }
+void ClearTableBuffer() {
+  Current().tableBuffer.clear();
+  Current().bufferedNames.clear();
+}
 
 void RestoreBufferedTableItems() {
+  // A row is looked for once, however often it is referred to.
+  std::unordered_map<const std::string*, std::int32_t> restored;
   for (BufferItem& item : Current().tableBuffer) {
-    item.RestoredID = AddTableItem(item.tableType, item.Name).ID;
+    const auto [known, isNew] = restored.try_emplace(item.Name.get());
+    if (isNew) known->second = AddTableItem(item.tableType, *item.Name).ID;
+    item.RestoredID = known->second;
   }
 }
 

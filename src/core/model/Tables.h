@@ -2,8 +2,11 @@
 
 #include <array>
 #include <cstdint>
+#include <map>
+#include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "general/IDSet.h"
@@ -16,9 +19,9 @@ struct RecordReader;
 /// A table row's name carried across the clipboard.
 struct BufferItem {
   std::int32_t tableType = 0;
-  std::int32_t ID = 0;          ///< The row's ID in the file that was open at the copy.
-  std::int32_t RestoredID = 0;  ///< Its ID in the file open at the paste.
-  std::string Name;
+  std::int32_t ID = 0;                      ///< The row's ID in the file that was open at the copy.
+  std::int32_t RestoredID = 0;              ///< Its ID in the file open at the paste.
+  std::shared_ptr<const std::string> Name;  ///< One text for all items of a row.
 };
 
 /// What the module `Tables` holds: the five tables of the open file and what goes with them.
@@ -26,6 +29,9 @@ struct TableSet {
   std::array<Table, 5> tables;
   std::array<std::int32_t, 6> nextTableID{};
   std::vector<BufferItem> tableBuffer;
+  /// The names in `tableBuffer` by type and ID: a conversation can refer to one long name from
+  /// many places.
+  std::map<std::pair<std::int32_t, std::int32_t>, std::shared_ptr<const std::string>> bufferedNames;
 };
 
 /// The table of a type code; nothing outside of 0 to 4.

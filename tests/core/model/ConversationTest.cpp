@@ -271,7 +271,7 @@ TEST_F(ConversationTest, BuffersItsOwnerThenItsFlagsThenItsEvents) {
   con.events.At(1).SetEventObject(kTrade, EventTrade{}).PawnID = 7;
   con.StoreTableData();
   std::vector<std::string> names;
-  for (const BufferItem& item : space_.workspace.tables.tableBuffer) names.push_back(item.Name);
+  for (const BufferItem& item : space_.workspace.tables.tableBuffer) names.push_back(*item.Name);
   EXPECT_THAT(names, ElementsAre("Bob", "Door", "Zoe"));
   con.NPCID = 6;
   EXPECT_EQ(ErrorOf([&] { con.StoreTableData(); }), 5) << "a row that is gone";
@@ -350,8 +350,27 @@ TEST_F(PasteTest, RewritesAFlagOnceWhenNumbersChainButThatOfASetTwice) {
   EXPECT_THAT(SetFlags(), ElementsAre(3));
 }
 
+TEST_F(PasteTest, SendsARowAgainForEachReferenceWhenNumbersGoInACircle) {
+  // The two actors have each other's number in the target. The rows stand in the buffer as they
+  // are referred to: 3 for the owner, 3 for the trade, 4 for the second trade.
+  AddEvent(con_, 3, "");
+  con_.events.At(3).SetEventObject(kTrade, EventTrade{}).PawnID = 4;
+  AddEvent(con_, 4, "");
+  con_.events.At(4).SetEventObject(kTrade, EventTrade{}).PawnID = 3;
+  const auto name = std::make_shared<const std::string>("x");
+  space_.workspace.tables.tableBuffer = {
+      {kActorTable, 3, 4, name}, {kActorTable, 4, 3, name}, {kActorTable, 3, 4, name}};
+  con_.FixTableReferences();
+  // 3 to 4 makes all of them 4, 4 to 3 all of them 3, and the second 3 to 4 all of them 4.
+  EXPECT_EQ(con_.NPCID, 4);
+  EXPECT_EQ(con_.events.At(2).As<EventTrade>()->PawnID, 4);
+  EXPECT_EQ(con_.events.At(3).As<EventTrade>()->PawnID, 4);
+  EXPECT_EQ(con_.events.At(4).As<EventTrade>()->PawnID, 4);
+}
+
 TEST_F(PasteTest, MovesTheOwnerAlongWithASkillOfHisNumber) {
-  space_.workspace.tables.tableBuffer = {{kSkillTable, 3, 8, "Computers"}};
+  space_.workspace.tables.tableBuffer = {
+      {kSkillTable, 3, 8, std::make_shared<const std::string>("Computers")}};
   con_.FixTableReferences();
   EXPECT_EQ(con_.NPCID, 8);
   EXPECT_EQ(con_.events.At(2).As<EventTrade>()->PawnID, 3);

@@ -223,7 +223,8 @@ TEST(TableBuffer, KeepsTheNameOfARowAndNothingForNone) {
   EXPECT_EQ(item.tableType, kFlagTable);
   EXPECT_EQ(item.ID, 2);
   EXPECT_EQ(item.RestoredID, 0);
-  EXPECT_EQ(item.Name, "Door");
+  EXPECT_EQ(*item.Name, "Door");
+  EXPECT_EQ(item.Name, space.workspace.tables.tableBuffer[0].Name) << "one text for both";
   EXPECT_EQ(ErrorOf([] { BufferTableItem(kFlagTable, 3); }), 5) << "a row that is not there";
   ClearTableBuffer();
   EXPECT_THAT(space.workspace.tables.tableBuffer, IsEmpty());
@@ -231,8 +232,10 @@ TEST(TableBuffer, KeepsTheNameOfARowAndNothingForNone) {
 
 TEST(TableBuffer, FindsRowsByNameInTheNewFileOrAddsThem) {
   TestWorkspace space;
-  space.workspace.tables.tableBuffer = {
-      {0, 3, 0, "Bob"}, {0, 4, 0, "bob"}, {2, 3, 0, "Bob"}, {0, 9, 0, "Bob"}};
+  space.workspace.tables.tableBuffer = {{0, 3, 0, std::make_shared<const std::string>("Bob")},
+                                        {0, 4, 0, std::make_shared<const std::string>("bob")},
+                                        {2, 3, 0, std::make_shared<const std::string>("Bob")},
+                                        {0, 9, 0, std::make_shared<const std::string>("Bob")}};
   TestWorkspace::AddRows(kActorTable, {{7, "Bob"}});
   RestoreBufferedTableItems();
   const auto& buffer = space.workspace.tables.tableBuffer;
