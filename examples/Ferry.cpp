@@ -105,7 +105,7 @@ void LastFerry(Script& script) {
   talk.Header().bInvokeRadius = true;
   talk.Header().invokeRadius = 400;
 
-  talk.CameraOnActor(90, -310, 42, 18);
+  talk.CameraAt(5, true);
   talk.IfFlags({{"LampSevenDark"}}, "InTheDark");
   talk.IfFlags({{"ClockMended"}}, "NineAtNine");
   talk.Says(

@@ -121,7 +121,7 @@ void FourHundredAndTwelve(Script& script) {
   talk.Header().bCannotBeInterrupted = true;
   talk.Header().bInvokeFrob = true;
 
-  talk.CameraOnSpeakers(1.5, -0.25, 2);
+  talk.CameraAt(3);
   talk.Says("Out with it. You have been silent for two whole lamps.");
   talk.Player("How long have you been lighting them blind?");
   talk.Says(

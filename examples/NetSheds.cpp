@@ -19,7 +19,7 @@ void DarkLamp(Script& script) {
   talk.Header().bCanBeInterrupted = true;
 
   talk.Comment("First her voice, then the smell of oranges, then Nettle.");
-  talk.CameraOnActor(-35, 120, 88, 12);
+  talk.CameraAt(6);
   talk.Says("Lovely pole. A shame about the wind. It will put one lamp out tonight.");
   talk.Says("I feel it in my purse.").Continued();
   talk.Choose({{.text = "Which lamp does the wind prefer?", .goTo = "Seven"},

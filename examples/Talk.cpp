@@ -176,25 +176,6 @@ Talk& Talk::CameraAt(std::int32_t position, bool spline) {
   return Add(kMoveCamera, std::move(event));
 }
 
-Talk& Talk::CameraOnSpeakers(double height, double center, double distance) {
-  EventMoveCamera event = NewCamera(EventMoveCamera::kSpeakers);
-  event.rotationPitch = -8;
-  event.rotationYaw = 24;
-  event.heightModifier = height;
-  event.centerModifier = center;
-  event.distanceMultiplier = distance;
-  return Add(kMoveCamera, std::move(event));
-}
-
-Talk& Talk::CameraOnActor(std::int32_t yaw, std::int32_t x, std::int32_t y, std::int32_t z) {
-  EventMoveCamera event = NewCamera(EventMoveCamera::kActor);
-  event.rotationYaw = yaw;
-  event.cameraX = x;
-  event.cameraY = y;
-  event.cameraZ = z;
-  return Add(kMoveCamera, std::move(event));
-}
-
 Talk& Talk::CameraAnywhere() { return Add(kMoveCamera, NewCamera(EventMoveCamera::kRandom)); }
 
 Talk& Talk::Animation(std::string_view actor, std::string_view sequence, Play play) {

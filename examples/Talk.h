@@ -83,8 +83,6 @@ class Talk {
   Talk& Transfer(std::string_view object, std::int32_t count, std::string_view from,
                  std::string_view to, std::string_view failLabel = {});
   Talk& CameraAt(std::int32_t position, bool spline = false);
-  Talk& CameraOnSpeakers(double height, double center, double distance);
-  Talk& CameraOnActor(std::int32_t yaw, std::int32_t x, std::int32_t y, std::int32_t z);
   Talk& CameraAnywhere();
   Talk& Animation(std::string_view actor, std::string_view sequence, Play play = {});
   Talk& Trade(std::string_view actor);

@@ -38,7 +38,10 @@ std::int32_t NumericValue(std::string_view text) {
   const bool begins = number.find_first_of("0123456789.", sign) == sign;  // not "nan" and "inf"
   double value = 0;
   if (!begins) return 0;
-  const auto error = std::from_chars(number.data(), number.data() + number.size(), value).ec;
+  // Digits alone count: "1e3" begins with 1.
+  const auto error =
+      std::from_chars(number.data(), number.data() + number.size(), value, std::chars_format::fixed)
+          .ec;
   if (error == std::errc::result_out_of_range) throw RuntimeError(RuntimeError::kOverflow);
   return RoundTo<std::int32_t>(value);
 }

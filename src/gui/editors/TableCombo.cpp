@@ -34,9 +34,14 @@ bool TableCombo::eventFilter(QObject* watched, QEvent* event) {
   const bool left = watched == &combo_ && event->type() == QEvent::FocusOut;
   if (left && !IsForAWhile(static_cast<QFocusEvent*>(event)->reason())) {
     // A question in the middle of a change of focus would leave the focus nowhere.
-    QMetaObject::invokeMethod(this, &TableCombo::LostFocus, Qt::QueuedConnection);
+    left_ = true;
+    QMetaObject::invokeMethod(this, &TableCombo::Leave, Qt::QueuedConnection);
   }
   return QObject::eventFilter(watched, event);
+}
+
+void TableCombo::Leave() {
+  if (std::exchange(left_, false)) LostFocus();
 }
 
 void TableCombo::LostFocus() {

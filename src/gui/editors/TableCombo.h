@@ -24,6 +24,9 @@ class TableCombo : public QObject {
   /// Whether the text is that of a row, which is selected then. Nobody is asked.
   [[nodiscard]] bool IsValid() const;
 
+  /// Asks at once what would be asked after the present event, since the combo has lost the focus.
+  void Leave();
+
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -33,6 +36,7 @@ class TableCombo : public QObject {
   QtComboBox& combo_;
   std::int32_t tableType_;
   std::function<void()> changed_;
+  bool left_ = false;    ///< The focus went, and nobody was asked yet.
   bool asking_ = false;  ///< The question itself takes the focus.
 };
 

@@ -123,6 +123,8 @@ void frmEvent::PanelKey(void (EventPanel::*pressed)()) {
 }
 
 void frmEvent::StartEvent(std::int32_t newAddMode) {
+  // What is written with no conversation selected would have nowhere to go.
+  if (!doors_.shell.SelectedCon()) return;
   ClearEventFields();
   txtLabel.setFocus();
   doors_.shell.AddEvent(cboEvents.ListIndex(), newAddMode);

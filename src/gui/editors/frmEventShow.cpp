@@ -8,6 +8,7 @@
 #include "general/Paths.h"
 #include "interchange/AudioPath.h"
 #include "model/TableCombos.h"
+#include "platform/FormControls.h"
 #include "widgets/CodePageText.h"
 
 namespace parlate {
@@ -21,14 +22,16 @@ void frmEvent::AddEvent(std::int32_t eventType, const std::shared_ptr<Conversati
   ShowEventPanel(eventType);
   cboEvents.setEnabled(true);
   bEditMode_ = 0;
-  if (!isVisible()) txtLabel.setFocus();
+  const bool wasHidden = !isVisible();
   show();
+  if (wasHidden) txtLabel.setFocus();
   raise();
   activateWindow();
 }
 
 void frmEvent::EditEvent(const std::shared_ptr<Conversation>& conObj,
                          const std::shared_ptr<EventItem>& eventItem) {
+  if (isVisible() && panelIndex_ != -1) Panel(panelIndex_).LeaveFields();
   // The one that was open may be gone from its conversation, and the panels still show it.
   const std::shared_ptr<EventItem> before = std::move(currentEvent_);
   currentCon_ = conObj;
@@ -41,8 +44,9 @@ void frmEvent::EditEvent(const std::shared_ptr<Conversation>& conObj,
   RefreshUpdateButton();
   bEditMode_ = 1;
   if (isVisible()) return;
-  txtLabel.setFocus();
   show();
+  txtLabel.setFocus();
+  PutCaretBehindText(txtLabel);
 }
 
 void frmEvent::ShowEventPanel(std::int32_t eventType) {

@@ -45,12 +45,12 @@ bool frmEvent::IsLabelUnique() {
 }
 
 void frmEvent::CommitNewEvent() {
+  // With no conversation selected there is none that would take the event.
+  if (!doors_.shell.SelectedCon()) return;
   auto event = std::make_shared<EventItem>();
   event->key = currentCon_->NextEventKey();
   event->eventType = cboEvents.ListIndex();
   bEditMode_ = 1;
-  // With no conversation selected the event gets into none and is not opened again, but the panel
-  // goes on working on it.
   currentEvent_ = event;
   UpdateEventObject(*event);
   doors_.shell.UpdateAddEvent(event, false);

@@ -7,6 +7,7 @@
 
 #include "general/CodePage.h"
 #include "general/RuntimeError.h"
+#include "platform/AltLetters.h"
 
 namespace parlate {
 
@@ -57,6 +58,7 @@ int Application::Run(const std::function<bool()>& start) {
 }
 
 bool Application::notify(QObject* receiver, QEvent* event) {
+  if (IsLeftOverAccessKey(*receiver, *event)) return true;
   try {
     return QApplication::notify(receiver, event);
   } catch (const std::exception& error) {

@@ -115,6 +115,7 @@ void frmConvList::CommandStatesChanged() {
   setWindowTitle(QFile::decodeName(QByteArray::fromStdString(shell_.Caption())));
   statusText_.setText(QString::fromStdString(shell_.StatusText()));
   const bool open = predicates.fileOpen;
+  const bool cameOrWent = open == tvCons_.isHidden();
   QPalette palette = QApplication::palette();
   if (!open) palette.setColor(QPalette::Window, Qt::black);
   client_.setPalette(palette);
@@ -127,6 +128,8 @@ void frmConvList::CommandStatesChanged() {
   lblConversations_.setVisible(open);
   lblEvents_.setVisible(open);
   ApplyStates(DecideCommandStates(predicates));
+  // Left to itself the focus goes to a button, which a writer's next blank would press.
+  if (cameOrWent) (open ? static_cast<QWidget&>(tvCons_) : *this).setFocus();
 }
 
 void frmConvList::ApplyStates(const std::vector<CommandState>& states) {

@@ -66,6 +66,7 @@ QVariant ConversationTreeModel::data(const QModelIndex& index, int role) const {
   switch (role) {
     case Qt::DisplayRole:
     case Qt::AccessibleTextRole:
+    case Qt::ToolTipRole:  // names are cut off in a narrow tree
       return ToSingleLine(node->Text());
     case Qt::EditRole:
       return ToQString(node->Text());

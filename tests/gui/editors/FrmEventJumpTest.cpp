@@ -188,6 +188,7 @@ TEST_F(FrmEventRandom, RemoveNeedsARowAndRemoveAllAnyRow) {
   EXPECT_TRUE(IsEnabled("cmdLabelRemove"));
   Click("cmdLabelRemove");
   EXPECT_THAT(Targets(), ElementsAre("a"));
+  EXPECT_FALSE(IsEnabled("cmdLabelRemove")) << "no neighbour is selected in its place";
   AddLabel("c");
   Click("cmdLabelRemoveAll");
   EXPECT_THAT(Targets(), IsEmpty());

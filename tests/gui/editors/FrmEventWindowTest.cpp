@@ -143,10 +143,48 @@ TEST_F(EventEditorWindow, WithNoConversationSelectedAnUpdateAddsNothing) {
   Add(kEnd);
   program_.ClickNode("A1");
   ASSERT_EQ(program_.shell().SelectedCon(), nullptr);
+  Type("txtLabel", "Nowhere");
   Click("cmdUpdate");
   Click("cmdUpdate");
-  Click("cmdAddEvent");
   EXPECT_THAT(KeysInOrder(0), ElementsAre(1, 2, 3, 4, 5));
+  EXPECT_FALSE(Con(0).IsValidLabel("Nowhere")) << "no event bears it";
+}
+
+TEST_F(EventEditorWindow, WithNoConversationSelectedAddAndInsertStartNothing) {
+  Edit(0);
+  program_.ClickNode("A1");
+  Click("cmdAddEvent");
+  Click("cmdInsertEvent");
+  EXPECT_EQ(Label().text(), "Start") << "the event that is shown stays";
+}
+
+TEST_F(EventEditorWindow, AnOpenedEventHasItsCaretBehindTheLabelAndNothingSelected) {
+  Edit(0);
+  EXPECT_EQ(Label().text(), "Start");
+  EXPECT_TRUE(Label().hasFocus());
+  EXPECT_EQ(Label().selectedText(), "");
+  EXPECT_EQ(Label().cursorPosition(), 5);
+}
+
+TEST_F(EventEditorWindow, AnUnknownActorIsAskedAboutAlsoWhenTheNextEventIsChosenInTheList) {
+  Edit(0);
+  Type("cboActorSpeaker", "Nobody");
+  program_.messages.Expect(Answer::No);
+  program_.Activate();
+  program_.ClickRow(2);
+  QCoreApplication::processEvents();
+  ASSERT_EQ(program_.messages.shown.size(), 1U);
+  EXPECT_EQ(program_.messages.shown[0].title, "Add Item?");
+}
+
+TEST_F(EventEditorWindow, ACameraThatCannotBeOpenedIsStoredBeforeTheRunEnds) {
+  Add(kMoveCamera);
+  Click("optCameraSpecific");
+  EXPECT_THROW(The<QAbstractButton>("cmdUpdate").click(), RuntimeError);
+  const auto& camera = EventOf<EventMoveCamera>(6);
+  EXPECT_EQ(camera.cameraType, EventMoveCamera::kActor);
+  const std::string rescued = program_.shell().WriteRecoveryFile(folder.File("rescue"));
+  EXPECT_FALSE(rescued.empty());
 }
 
 TEST_F(EventEditorWindow, SaveAndCloseOfTheFileTakeTheEditorAway) {

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QPushButton>
+#include <QStackedWidget>
 #include <QTabWidget>
 #include <QTest>
 
@@ -65,6 +66,14 @@ TEST_P(FormIn, EitherPaletteShowsEveryTextWhole) {
     form->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(form.get())) << factory.name.toStdString();
     ExpectWhole(*form);
+    for (auto* stack : form->findChildren<QStackedWidget*>()) {
+      if (qobject_cast<QTabWidget*>(stack->parentWidget()) != nullptr) continue;
+      for (int i = 0; i < stack->count(); ++i) {
+        stack->setCurrentIndex(i);
+        QTest::qWait(0);
+        ExpectWhole(*form);
+      }
+    }
     // What stands behind the other tabs is laid out when it is shown.
     for (auto* tabs : form->findChildren<QTabWidget*>()) {
       for (int i = 0; i < tabs->count(); ++i) {

@@ -19,6 +19,7 @@ class AnimationPanel final : public EventPanel {
  public:
   explicit AnimationPanel(PanelHost& host, QWidget* parent = nullptr);
 
+  void LeaveFields() override { pawn_.Leave(); }
   void ClearFields() override;
   void Ready() override;
   void LoadEvent(EventItem& event) override;

@@ -15,6 +15,7 @@ class CheckObjectPanel final : public EventPanel {
  public:
   explicit CheckObjectPanel(PanelHost& host, QWidget* parent = nullptr);
 
+  void LeaveFields() override { object_.Leave(); }
   void ClearFields() override;
   void Ready() override;
   void LoadEvent(EventItem& event) override;

@@ -51,6 +51,8 @@ class EventPanel : public QGroupBox {
 
   [[nodiscard]] std::int32_t EventType() const { return eventType_; }
 
+  /// Finishes what a field left behind has to ask before the panel shows another event.
+  virtual void LeaveFields() {}
   /// Empties every control, whatever panel is shown.
   virtual void ClearFields() = 0;
   /// A fresh start for an event that does not exist yet: lists of its own instead of an event's.

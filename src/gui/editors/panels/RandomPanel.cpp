@@ -130,6 +130,8 @@ void RandomPanel::AddLabel() {
 
 void RandomPanel::RemoveLabel() {
   lstLabels.RemoveItem(lstLabels.ListIndex());
+  // The toolkit selects a neighbour, which a second press would remove too.
+  lstLabels.SetListIndex(-1);
   RefreshRandomButtons();
   emit changed();
 }

@@ -20,6 +20,10 @@ class SpeechPanel final : public EventPanel {
  public:
   explicit SpeechPanel(PanelHost& host, QWidget* parent = nullptr);
 
+  void LeaveFields() override {
+    speaker_.Leave();
+    speakingTo_.Leave();
+  }
   void ClearFields() override;
   void Ready() override;
   void LoadEvent(EventItem& event) override;

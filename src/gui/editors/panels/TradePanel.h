@@ -15,6 +15,7 @@ class TradePanel final : public EventPanel {
  public:
   explicit TradePanel(PanelHost& host, QWidget* parent = nullptr);
 
+  void LeaveFields() override { pawn_.Leave(); }
   void ClearFields() override;
   void Ready() override;
   void LoadEvent(EventItem& event) override;

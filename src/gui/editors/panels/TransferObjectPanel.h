@@ -16,6 +16,11 @@ class TransferObjectPanel final : public EventPanel {
  public:
   explicit TransferObjectPanel(PanelHost& host, QWidget* parent = nullptr);
 
+  void LeaveFields() override {
+    object_.Leave();
+    from_.Leave();
+    to_.Leave();
+  }
   void ClearFields() override;
   void Ready() override;
   void LoadEvent(EventItem& event) override;
