@@ -198,8 +198,21 @@ bool frmChoiceEdit::eventFilter(QObject* watched, QEvent* event) {
   return key->key() == Qt::Key_Delete || key->key() == Qt::Key_Insert;
 }
 
+bool frmChoiceEdit::IsSkillFit() {
+  const bool typed = chkSkill.isChecked() && !cboSkills.Text().empty();
+  if (!typed || cboSkills.ListIndex() != -1) return true;
+  // The combo takes the focus when the typed name is not wanted, so it has to be in sight.
+  if (!ValidateComboEntry(cboSkills, kSkillTable, true)) tabChoice.setCurrentWidget(&pageSkills);
+  const bool fit = ValidateComboEntry(cboSkills, kSkillTable, false);
+  RefreshChoiceOK();
+  return fit && cmdOK.isEnabled();
+}
+
 void frmChoiceEdit::accept() {
-  if (!cmdOK.isEnabled()) return;
+  // The access key of OK takes the focus from the combo, which may ask its question before the
+  // button is let go.
+  const bool asking = QApplication::activeModalWidget() != this;
+  if (asking || !cmdOK.isEnabled() || !IsSkillFit()) return;
   modalResult = 0;
   QDialog::accept();
 }

@@ -69,6 +69,8 @@ class frmChoiceEdit : public QDialog {
   bool Run(ChoiceItem& choice);
   void StoreChoiceFields(ChoiceItem& choice);
   void RefreshChoiceOK();
+  /// Makes a skill that was typed and not left yet a row, or has it taken back.
+  bool IsSkillFit();
   void RefreshFlagDelete();
   void RefreshSkillControls();
   void PopulateSkillCombo();

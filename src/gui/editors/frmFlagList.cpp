@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "general/RuntimeError.h"
 #include "model/TableCombos.h"
 #include "model/Tables.h"
 #include "model/TextNumbers.h"
@@ -107,9 +108,21 @@ void frmFlagList::EditFlags() {
   PopulateAvailableFlags();
 }
 
+bool frmFlagList::IsExpirationFit() {
+  if (txtExpiration.isHidden()) return true;
+  try {
+    static_cast<void>(FlagExpiration());
+    return true;
+  } catch (const RuntimeError&) {
+    // A number that the file cannot hold is left to the user to correct.
+    FocusWholeText(txtExpiration);
+    return false;
+  }
+}
+
 void frmFlagList::accept() {
   // A double click comes here too, and it has selected its row.
-  if (!cmdOK.isEnabled()) return;
+  if (!cmdOK.isEnabled() || !IsExpirationFit()) return;
   modalResult = 0;
   QDialog::accept();
 }

@@ -46,6 +46,7 @@ class frmFlagList : public QDialog {
   void PopulateAvailableFlags();
   void RefreshFlagOK();
   void EditFlags();
+  bool IsExpirationFit();
 
   const FlagList* flagRefs_ = nullptr;
 

@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
 #include "general/CodePage.h"
@@ -56,7 +57,10 @@ void frmPlayAudio::BuildLayout() {
 }
 
 void frmPlayAudio::PlayWaveFile(const std::string& waveFile, const Conversation& con) {
-  const std::string path = audioFolder_(con) + kPathSeparator + ToUtf8(waveFile) + ".wav";
+  // A name may have folders in it, which conversation files part by backslashes.
+  std::string name = ToUtf8(waveFile);
+  std::replace(name.begin(), name.end(), '\\', kPathSeparator);
+  const std::string path = audioFolder_(con) + kPathSeparator + name + ".wav";
   mmcPlayWave.Open(path);
   mmcPlayWave.Play();
   txtFilename.setText(QFile::decodeName(QByteArray::fromStdString(path)));

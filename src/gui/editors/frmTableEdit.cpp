@@ -50,6 +50,7 @@ void frmTableEdit::SetUpControls() {
   lstTable.installEventFilter(this);
   NameControl(txtName, "txtName", QStringLiteral("Name"));
   KeepToCodePage(txtName);
+  txtName.installEventFilter(this);
   SetUpButton(cmdAdd, "cmdAdd", QStringLiteral("&Add"));
   SetUpButton(cmdEdit, "cmdEdit", QStringLiteral("&Edit"));
   SetUpButton(cmdDelete, "cmdDelete", QStringLiteral("&Delete"));
@@ -117,6 +118,7 @@ std::int32_t frmTableEdit::EditTable(std::int32_t newTableType) {
 
 void frmTableEdit::PopulateTable() {
   lstTable.Clear();
+  // Rows of one name keep their own IDs here, because Delete acts on the row that is seen.
   for (const TableItem& row : *editTable_) lstTable.AddRow(row.Name, row.ID);
   cmdAdd.setEnabled(false);
   RefreshTableButtons();
@@ -253,14 +255,17 @@ Answer frmTableEdit::Show(const std::string& title, const std::string& text, Mes
 std::string frmTableEdit::RowCaption() const { return tableName_.substr(0, tableName_.size() - 1); }
 
 bool frmTableEdit::eventFilter(QObject* watched, QEvent* event) {
-  if (watched != &lstTable || event->type() != QEvent::KeyPress) {
+  const bool inName = watched == &txtName;
+  if ((watched != &lstTable && !inName) || event->type() != QEvent::KeyPress) {
     return QDialog::eventFilter(watched, event);
   }
   const auto* key = static_cast<QKeyEvent*>(event);
   if ((key->modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) return false;
-  if (key->key() == Qt::Key_Delete) cmdDelete.click();
+  // In the name the Delete key is the field's own.
+  const bool deletes = key->key() == Qt::Key_Delete && !inName;
+  if (deletes) cmdDelete.click();
   if (key->key() == Qt::Key_Insert) cmdAdd.click();
-  return key->key() == Qt::Key_Delete || key->key() == Qt::Key_Insert;
+  return deletes || key->key() == Qt::Key_Insert;
 }
 
 void frmTableEdit::reject() {

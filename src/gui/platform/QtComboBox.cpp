@@ -13,9 +13,10 @@ namespace parlate {
 
 namespace {
 
-bool IsTabPage(const QWidget& part) {
+/// The tabs that this is a page of, if it is one.
+QTabWidget* TabsOfPage(const QWidget& part) {
   const QWidget* pages = part.parentWidget();
-  return qobject_cast<const QTabWidget*>(pages->parentWidget()) != nullptr;
+  return pages == nullptr ? nullptr : qobject_cast<QTabWidget*>(pages->parentWidget());
 }
 
 }  // namespace
@@ -187,7 +188,12 @@ void QtComboBox::SelectText(int start, int length) {
   if (isEditable()) lineEdit()->setSelection(start, length);
 }
 
-void QtComboBox::SetFocus() { setFocus(Qt::OtherFocusReason); }
+void QtComboBox::SetFocus() {
+  for (QWidget* part = this; !part->isWindow(); part = part->parentWidget()) {
+    if (QTabWidget* tabs = TabsOfPage(*part)) tabs->setCurrentWidget(part);
+  }
+  setFocus(Qt::OtherFocusReason);
+}
 
 // Told here, rows do not come in the middle of a key press or while a list is laid out.
 void QtComboBox::focusInEvent(QFocusEvent* event) {
@@ -215,7 +221,7 @@ void QtComboBox::TakeAsTyped() {
 
 bool QtComboBox::Visible() const {
   for (const QWidget* part = this; !part->isWindow(); part = part->parentWidget()) {
-    if (part->isHidden() && !IsTabPage(*part)) return false;
+    if (part->isHidden() && TabsOfPage(*part) == nullptr) return false;
   }
   return window()->isVisible();
 }

@@ -48,6 +48,7 @@ class QtComboBox final : public QComboBox, public ComboBox {
   /// A list-only combo selects the row of that text, or none.
   void SetText(const std::string& text) override;
   void SelectText(int start, int length) override;
+  /// Turns to the combo's page first if it stands in a tabbed form.
   void SetFocus() override;
   /// Also on a page of a tabbed form that is turned away; not in a panel that is hidden.
   [[nodiscard]] bool Visible() const override;

@@ -181,6 +181,17 @@ TEST(FlagLinks, OfACheckMoveToTheEndAndAreRewrittenOnce) {
   EXPECT_THAT(IdsOf(check.flagRefs), ElementsAre(5, 2)) << "the mark keeps the entry as it is";
 }
 
+TEST(FlagLinks, OfAChoiceMoveToTheEndAndAreRewrittenOnce) {
+  EventChoice event;
+  AddChoice(event, -1, FlagsOf({1, 5}));
+  const FlagList& flags = event.Choices.Place(1)->flagRefs;
+  event.ChangeTableLink(2, 1, 2);
+  EXPECT_THAT(IdsOf(flags), ElementsAre(5, 2));
+  EXPECT_TRUE(flags.At(2).bAdjustedID);
+  event.ChangeTableLink(2, 2, 3);
+  EXPECT_THAT(IdsOf(flags), ElementsAre(5, 2)) << "the mark keeps the entry as it is";
+}
+
 TEST(FlagLinks, OfASetAreRewrittenInPlaceUnderTheirOldKeyAndAgain) {
   EventSetFlag set;
   set.Update(FlagsOf({1, 5}));

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QTabBar>
+#include <utility>
 
 #include "editors/EditorFixture.h"
 #include "editors/frmChoiceEdit.h"
@@ -78,6 +79,15 @@ class FrmChoiceEditTest : public EditorTest {
   static void Type(const QWidget& form, const char* name, const char* text) {
     QTest::keyClicks(&TextOf(form, name), text);
   }
+  /// Writes a new choice up to its skill, which stands in its combo as typed.
+  static void TypeSkill(const QWidget& form, const char* skill) {
+    Type(form, "txtChoice", "x");
+    Turn(form, 2);
+    Toggle(form, "chkSkill");
+    Combo(form, "cboSkills").SetFocus();
+    QTest::keyClicks(QApplication::focusWidget(), skill);
+    EXPECT_EQ(Combo(form, "cboSkills").ListIndex(), -1);
+  }
   static void Toggle(const QWidget& form, const char* name) {
     QTest::keyClick(&Box(form, name), Qt::Key_Space);
   }
@@ -95,11 +105,15 @@ class FrmChoiceEditTest : public EditorTest {
   ScriptedTableEditor tables_;
   Host host_{Doors()};
   std::shared_ptr<ChoiceItem> added_;
+  std::vector<std::string> played_;  ///< The conversations whose audio folder was asked for.
 
  private:
   template <class Call>
   bool Run(const User& user, Call call) {
-    frmChoiceEdit form(host_, [this](const Conversation&) { return folder.File("audio"); });
+    frmChoiceEdit form(host_, [this](const Conversation& con) {
+      played_.push_back(con.conName);
+      return folder.File("audio");
+    });
     WhenFormShows("frmChoiceEdit", [&user](QWidget& shown) {
       user(shown);
       if (shown.isVisible()) Click(shown, "cmdCancel");
@@ -337,6 +351,121 @@ TEST_F(FrmChoiceEditTest, AnUnknownSkillIsAskedAboutWhenItsComboIsLeft) {
   EXPECT_NE(FindTableItemByName(kSkillTable, "Fly"), nullptr);
 }
 
+TEST_F(FrmChoiceEditTest, EnterMakesATypedSkillItsRowAndThenWantsALevel) {
+  EXPECT_TRUE(Add([](QWidget& form) {
+    TypeSkill(form, "Swim");
+    EXPECT_TRUE(IsEnabled(form, "cmdOK"));
+    QTest::keyClick(&Combo(form, "cboSkills"), Qt::Key_Return);
+    EXPECT_TRUE(form.isVisible());
+    EXPECT_EQ(GetComboItemID(Combo(form, "cboSkills")), 4);
+    EXPECT_FALSE(IsEnabled(form, "cmdOK"));
+    Combo(form, "cboSkillLevels").SetListIndex(1);
+    QTest::keyClick(&form, Qt::Key_Return);
+    EXPECT_FALSE(form.isVisible());
+  }));
+  EXPECT_TRUE(Boxes().empty());
+  EXPECT_EQ(added_->skillID, 4);
+  EXPECT_EQ(added_->skillLevel, 1);
+}
+
+TEST_F(FrmChoiceEditTest, EnterStoresATypedSkillThatHasALevelAlready) {
+  EXPECT_TRUE(Add([](QWidget& form) {
+    TypeSkill(form, "Swim");
+    Combo(form, "cboSkillLevels").SetListIndex(1);
+    QTest::keyClick(&Combo(form, "cboSkills"), Qt::Key_Return);
+    EXPECT_FALSE(form.isVisible());
+  }));
+  EXPECT_EQ(added_->skillID, 4);
+}
+
+TEST_F(FrmChoiceEditTest, EnterAsksAboutAnUnknownSkillAndYesAddsIt) {
+  program_.messages.Expect(Answer::Yes);
+  EXPECT_TRUE(Add([](QWidget& form) {
+    TypeSkill(form, "Fly");
+    QTest::keyClick(&Combo(form, "cboSkills"), Qt::Key_Return);
+    EXPECT_TRUE(form.isVisible());
+    EXPECT_NE(Combo(form, "cboSkills").ListIndex(), -1);
+    EXPECT_FALSE(IsEnabled(form, "cmdOK")) << "a level is wanted";
+    Combo(form, "cboSkillLevels").SetListIndex(0);
+    Click(form, "cmdOK");
+  }));
+  ASSERT_EQ(Boxes().size(), 1U);
+  EXPECT_EQ(Boxes()[0].title, "Add Item?");
+  const TableItem* row = FindTableItemByName(kSkillTable, "Fly");
+  ASSERT_NE(row, nullptr);
+  EXPECT_EQ(added_->skillID, row->ID);
+}
+
+TEST_F(FrmChoiceEditTest, EnterAsksAboutAnUnknownSkillAndNoLeavesItToCorrect) {
+  program_.messages.Expect(Answer::No);
+  EXPECT_FALSE(Add([](QWidget& form) {
+    TypeSkill(form, "Fly");
+    QTest::keyClick(&Combo(form, "cboSkills"), Qt::Key_Return);
+    EXPECT_TRUE(form.isVisible());
+    EXPECT_TRUE(Combo(form, "cboSkills").hasFocus());
+    EXPECT_EQ(Combo(form, "cboSkills").lineEdit()->selectedText(), "Fly");
+  }));
+  EXPECT_EQ(Boxes().size(), 1U);
+  EXPECT_EQ(FindTableItemByName(kSkillTable, "Fly"), nullptr);
+}
+
+TEST_F(FrmChoiceEditTest, EnterOnAnotherPageTurnsToTheUnknownSkill) {
+  program_.messages.Expect(Answer::No);
+  EXPECT_FALSE(Add([](QWidget& form) {
+    Type(form, "txtChoice", "x");
+    Box(form, "chkSkill").setChecked(true);
+    Combo(form, "cboSkills").SetText("Fly");
+    QTest::keyClick(&TextOf(form, "txtChoice"), Qt::Key_Return);
+    EXPECT_TRUE(form.isVisible());
+    EXPECT_EQ(ControlNamed<QTabWidget>(form, "tabChoice").currentIndex(), 2);
+    EXPECT_TRUE(Combo(form, "cboSkills").hasFocus());
+  }));
+  EXPECT_EQ(Boxes().size(), 1U);
+}
+
+TEST_F(FrmChoiceEditTest, TheAccessKeyOfOkAsksOnceAndDropsNoTypedSkill) {
+  /// Answers No, as late as a user does.
+  class LateNo final : public MessageBoxes {
+   public:
+    Answer Show(const MessageBox&) override {
+      ++shown;
+      QDialog box;
+      QTimer::singleShot(400, &box, &QDialog::reject);
+      box.exec();
+      return Answer::No;
+    }
+    int shown = 0;
+  };
+  LateNo messages;
+  MessageBoxes* before = std::exchange(program_.workspace.messages, &messages);
+  EXPECT_FALSE(Add([&messages](QWidget& form) {
+    TypeSkill(form, "Fly");
+    QTest::keyClick(&form, Qt::Key_O, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return messages.shown > 0 && QApplication::activeModalWidget() == &form; }));
+    QTest::qWait(250);
+    EXPECT_TRUE(form.isVisible());
+    EXPECT_TRUE(Combo(form, "cboSkills").hasFocus());
+    EXPECT_EQ(Combo(form, "cboSkills").Text(), "Fly");
+  }));
+  EXPECT_EQ(messages.shown, 1);
+  program_.workspace.messages = before;
+}
+
+TEST_F(FrmChoiceEditTest, TurningThePageAsksAboutAnUnknownSkillAndNoTurnsBack) {
+  program_.messages.Expect(Answer::No);
+  Add([this](QWidget& form) {
+    TypeSkill(form, "Fly");
+    auto& tabs = ControlNamed<QTabWidget>(form, "tabChoice");
+    QTest::mouseClick(tabs.tabBar(), Qt::LeftButton, {}, tabs.tabBar()->tabRect(0).center());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !Boxes().empty(); }));
+    EXPECT_EQ(tabs.currentIndex(), 2);
+    EXPECT_TRUE(Combo(form, "cboSkills").hasFocus());
+    EXPECT_EQ(Combo(form, "cboSkills").lineEdit()->selectedText(), "Fly");
+  });
+  EXPECT_EQ(Boxes().size(), 1U);
+}
+
 TEST_F(FrmChoiceEditTest, TheButtonBesideTheSkillEditsItsTable) {
   tables_.user = [] { return 4; };
   Add([](QWidget& form) {
@@ -465,6 +594,7 @@ TEST_F(FrmChoiceEditTest, PlayOpensThePlayerOnTheFile) {
     Click(form, "cmdPlayAudio");
     EXPECT_EQ(played, QString::fromStdString(folder.File("audio") + "/yes.mp3.wav"));
   });
+  EXPECT_THAT(played_, ElementsAre("Greeting")) << "the conversation of the choice";
 }
 
 TEST_F(FrmChoiceEditTest, OneDialogServesOneChoiceAfterAnother) {

@@ -11,6 +11,7 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::UnorderedElementsAre;
 using namespace testing_support;
 
 class FrmEventChoice : public EventEditorTest {
@@ -29,6 +30,17 @@ class FrmEventChoice : public EventEditorTest {
     std::vector<std::string> texts;
     for (const ChoiceItem& choice : EventOf<EventChoice>(6).Choices) texts.push_back(choice.text);
     return texts;
+  }
+  /// The labels that the dialog of a new choice offers.
+  std::vector<std::string> OfferedLabels() {
+    std::vector<std::string> labels;
+    WhenFormShows("frmChoiceEdit", [&labels](QWidget& form) {
+      const auto& combo = ControlNamed<QtComboBox>(form, "cboJumpLabel");
+      for (int i = 0; i < combo.ListCount(); ++i) labels.push_back(combo.List(i));
+      QTest::mouseClick(&ControlNamed<QPushButton>(form, "cmdCancel"), Qt::LeftButton);
+    });
+    Click("cmdChoiceAdd");
+    return labels;
   }
   std::vector<bool> Buttons() {
     return {IsEnabled("cmdChoiceAdd"), IsEnabled("cmdChoiceEdit"), IsEnabled("cmdChoiceDelete"),
@@ -72,6 +84,20 @@ TEST_F(FrmEventChoice, GoesTheWholeWayToTheFileAndBack) {
   EXPECT_EQ(event.Choices.Place(2)->ID, 1);
   EXPECT_EQ(event.Choices.Place(2)->text, "Go on");
   EXPECT_EQ(event.nextChoiceID, 2);
+}
+
+TEST_F(FrmEventChoice, TheLabelOfTheEventItselfIsNotOfferedToItsChoices) {
+  AddThree();
+  Type("txtLabel", "Ask");
+  Click("cmdUpdate");
+  EXPECT_EQ(Con().events.At(6).eventLabel, "Ask");
+  Edit(0);
+  Edit(5);
+  EXPECT_EQ(TextOf("txtLabel"), "Ask");
+  EXPECT_THAT(OfferedLabels(), UnorderedElementsAre("Start", "Stop"));
+  Click("cmdAddEvent");
+  EXPECT_THAT(OfferedLabels(), UnorderedElementsAre("Ask", "Start", "Stop"))
+      << "another event can go there";
 }
 
 TEST_F(FrmEventChoice, ACancelledChoiceIsNotAdded) {

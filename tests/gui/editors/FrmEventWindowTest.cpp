@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include <QProcess>
+
 #include "editors/EventEditorFixture.h"
 #include "general/Paths.h"
 
@@ -217,10 +219,25 @@ class PasteThroughTheWindow : public WindowTest {
     const std::string into = FileOf(tables, {Con(0, "other", {9, "Bo"}, {End(1, "")})});
     WriteBytes(folder.File("window.con"), into);
     WriteBytes(folder.File("core.con"), into);
+    WriteBytes(folder.File("into.con"), into);
+  }
+
+  /// Pastes by the command line, at the moment and by the user of the window.
+  void PasteByTheCommandLine() {
+    const auto file = [this](const char* name) {
+      return QString::fromStdString(folder.File(name));
+    };
+    QProcess tool;
+    tool.start(QStringLiteral(PARLATE_CLI),
+               {"paste", file("from.con"), "0", file("into.con"), file("cli.con"), "--user",
+                "Tester", "--now", QString::number(kSavedAt)});
+    EXPECT_TRUE(tool.waitForFinished());
+    EXPECT_EQ(tool.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(tool.exitCode(), 0) << tool.readAllStandardError().toStdString();
   }
 };
 
-TEST_F(PasteThroughTheWindow, GivesTheBytesOfTheSamePasteInTheCore) {
+TEST_F(PasteThroughTheWindow, GivesTheBytesOfTheSamePasteInTheCoreAndByTheCommandLine) {
   RunningProgram program;
   ASSERT_TRUE(program.Start(folder.File("from.con")));
   program.ClickNode("C0");
@@ -247,6 +264,9 @@ TEST_F(PasteThroughTheWindow, GivesTheBytesOfTheSamePasteInTheCore) {
   EXPECT_TRUE(shell.SaveConFile(false));
   EXPECT_EQ(throughTheWindow, ReadBytes(folder.File("core.con")));
   EXPECT_TRUE(core.Close());
+
+  PasteByTheCommandLine();
+  EXPECT_EQ(throughTheWindow, ReadBytes(folder.File("cli.con")));
 }
 
 }  // namespace

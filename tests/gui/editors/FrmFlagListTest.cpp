@@ -38,6 +38,17 @@ class FrmFlagListTest : public ::testing::Test {
     QTest::mouseClick(List().viewport(), Qt::LeftButton, modifiers,
                       List().visualItemRect(List().item(row)).center());
   }
+  void DoubleClickRow(int row) {
+    ClickRow(row);
+    QTest::mouseDClick(List().viewport(), Qt::LeftButton, {},
+                       List().visualItemRect(List().item(row)).center());
+  }
+  void ExpectExpirationToCorrect() {
+    EXPECT_TRUE(form_->isVisible());
+    EXPECT_EQ(form_->modalResult, 1);
+    EXPECT_TRUE(TextOf(*form_, "txtExpiration").hasFocus());
+    EXPECT_EQ(TextOf(*form_, "txtExpiration").selectedText(), "99999999999");
+  }
   void Hold(std::int32_t id) {
     auto flag = std::make_shared<FlagRef>();
     flag->flagID = id;
@@ -180,15 +191,36 @@ TEST_F(FrmFlagListTest, CancelEscapeAndClosingStayOne) {
 TEST_F(FrmFlagListTest, ADoubleClickTakesTheRowWithTheValueAndExpirationShown) {
   ControlNamed<QtComboBox>(Form(), "cboFlagValues").SetListIndex(1);
   TextOf(Form(), "txtExpiration").setText("9");
-  ClickRow(3);
-  QTest::mouseDClick(List().viewport(), Qt::LeftButton, {},
-                     List().visualItemRect(List().item(3)).center());
+  DoubleClickRow(3);
   EXPECT_EQ(form_->modalResult, 0);
   EXPECT_TRUE(form_->isHidden());
   SetSelectedFlagRefs(flags_, form_->Rows(), form_->FlagValue(), form_->FlagExpiration());
   ASSERT_EQ(flags_.Count(), 1U);
   EXPECT_FALSE(flags_.At(5).bValue);
   EXPECT_EQ(flags_.At(5).expiration, 9);
+}
+
+TEST_F(FrmFlagListTest, AnExpirationThatTheFileCannotHoldIsLeftToCorrect) {
+  TextOf(Form(), "txtExpiration").setText("99999999999");
+  ClickRow(0);
+  Click(Form(), "cmdOK");
+  ExpectExpirationToCorrect();
+  DoubleClickRow(1);
+  ExpectExpirationToCorrect();
+  QTest::keyClicks(QApplication::focusWidget(), "2147483647");
+  QTest::keyClick(&Form(), Qt::Key_Return);
+  EXPECT_EQ(form_->modalResult, 0);
+  EXPECT_TRUE(form_->isHidden());
+  EXPECT_EQ(form_->FlagExpiration(), 2147483647);
+}
+
+TEST_F(FrmFlagListTest, AnExpirationThatIsHiddenIsNotLookedAt) {
+  TextOf(Form(), "txtExpiration").setText("99999999999");
+  Form().ShowExpiration(false);
+  ClickRow(0);
+  Click(Form(), "cmdOK");
+  EXPECT_EQ(form_->modalResult, 0);
+  EXPECT_TRUE(form_->isHidden());
 }
 
 }  // namespace

@@ -101,6 +101,18 @@ TEST_F(FrmPlayAudioTest, TheExtensionIsFixedAndTheWholePathIsShown) {
   EXPECT_TRUE(form.isHidden());
 }
 
+TEST_F(FrmPlayAudioTest, BackslashesInTheNamePartFolders) {
+  MakeFolder(folder_.File("audio"));
+  MakeFolder(folder_.File("audio/Pkg"));
+  WriteBytes(folder_.File("audio/Pkg/Zoe01.wav"), WaveFile(100));
+  frmPlayAudio form(Folder());
+  const QSignalSpy ends(form.findChild<WavePlayer*>("mmcPlayWave"), &WavePlayer::done);
+  form.PlayWaveFile("Pkg\\Zoe01", con_);
+  EXPECT_EQ(ends.count(), 1);
+  EXPECT_EQ(TextOf(form, "txtFilename").text(),
+            QString::fromStdString(folder_.File("audio/Pkg/Zoe01.wav")));
+}
+
 TEST_F(FrmPlayAudioTest, AFileWithALetterBeyondAsciiIsPlayed) {
   Put("zo\xC3\xAB.wav", WaveFile(100));
   frmPlayAudio form(Folder());

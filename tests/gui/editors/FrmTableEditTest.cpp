@@ -294,6 +294,61 @@ TEST_F(FrmTableEditTest, TheDeleteKeyDeletesWithoutModifierOnly) {
   });
 }
 
+TEST_F(FrmTableEditTest, TheInsertKeyAddsTheNameFromTheListAndFromTheNameWithoutModifierOnly) {
+  Edit(kObjectTable, [](QWidget& form) {
+    QLineEdit& name = TextOf(form, "txtName");
+    for (QWidget* field : {static_cast<QWidget*>(&List(form)), static_cast<QWidget*>(&name)}) {
+      QTest::keyClick(field, Qt::Key_Insert);
+      EXPECT_THAT(Rows(form), ElementsAre("Key", "Rope")) << "there is no name to add";
+    }
+    QTest::keyClicks(&name, "Axe");
+    for (const auto modifier : {Qt::ControlModifier, Qt::AltModifier}) {
+      QTest::keyClick(&List(form), Qt::Key_Insert, modifier);
+      QTest::keyClick(&name, Qt::Key_Insert, modifier);
+    }
+    EXPECT_EQ(name.text(), "Axe");
+    EXPECT_THAT(Rows(form), ElementsAre("Key", "Rope"));
+    QTest::keyClick(&name, Qt::Key_Insert);
+    EXPECT_THAT(Rows(form), ElementsAre("Axe", "Key", "Rope"));
+    EXPECT_EQ(name.text(), "");
+    QTest::keyClicks(&name, "Zip");
+    QTest::keyClick(&List(form), Qt::Key_Insert);
+    EXPECT_THAT(Rows(form), ElementsAre("Axe", "Key", "Rope", "Zip"));
+  });
+  Edit(kFlagTable, [](QWidget& form) {
+    QTest::keyClicks(&TextOf(form, "txtName"), "Axe");
+    QTest::keyClick(&TextOf(form, "txtName"), Qt::Key_Insert);
+    EXPECT_THAT(Rows(form), ElementsAre("Axe", "Door", "Lamp"));
+  });
+}
+
+TEST_F(FrmTableEditTest, TheAccessKeyOfBothDeleteButtonsGoesFromOneToTheOtherAndRunsNone) {
+  Edit(kObjectTable, [](QWidget& form) {
+    ClickRow(form, 1);
+    std::set<QString> reached;
+    for (int press = 0; press < 2; ++press) {
+      QTest::keyClick(&form, Qt::Key_D, Qt::AltModifier);
+      reached.insert(QApplication::focusWidget()->objectName());
+    }
+    EXPECT_EQ(reached, (std::set<QString>{"cmdDelete", "cmdDeleteUnused"}));
+    // A button that was pressed by its key would be let go by now.
+    QTest::qWait(250);
+    EXPECT_THAT(Rows(form), ElementsAre("Key", "Rope"));
+  });
+  EXPECT_THAT(Boxes(), IsEmpty());
+}
+
+TEST_F(FrmTableEditTest, TheAccessKeyOfDeleteUnusedRunsItWhileDeleteIsGrey) {
+  program_.messages.Expect(Answer::No);
+  Edit(kObjectTable, [this](QWidget& form) {
+    EXPECT_FALSE(IsEnabled(form, "cmdDelete"));
+    QTest::keyClick(&form, Qt::Key_D, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !Boxes().empty(); }));
+  });
+  ASSERT_EQ(Boxes().size(), 1U);
+  EXPECT_EQ(Boxes()[0].title, "Remove Unused Entries?");
+}
+
 TEST_F(FrmTableEditTest, ARowInUseIsNotDeletedAndNoEndsIt) {
   program_.messages.Expect(Answer::No);
   Edit(kObjectTable, [](QWidget& form) {

@@ -452,5 +452,28 @@ TEST_F(QtComboBoxTest, IsVisibleOnATabThatIsTurnedAwayAndNotInAHiddenPanel) {
   EXPECT_FALSE(onFirst.Visible());
 }
 
+TEST_F(QtComboBoxTest, TurnsToItsPageWhenItTakesTheFocus) {
+  QTabWidget outer;
+  auto* inner = new QTabWidget;
+  auto* page = new QWidget;
+  QtComboBox onPage(page);
+  inner->addTab(page, "1");
+  inner->addTab(new QLineEdit, "2");
+  outer.addTab(inner, "A");
+  outer.addTab(new QLineEdit, "B");
+  outer.show();
+  outer.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&outer));
+  onPage.SetText("Anna");
+  inner->setCurrentIndex(1);
+  outer.setCurrentIndex(1);
+  onPage.SelectText(0, 4);
+  onPage.SetFocus();
+  EXPECT_EQ(outer.currentIndex(), 0);
+  EXPECT_EQ(inner->currentIndex(), 0);
+  EXPECT_TRUE(onPage.hasFocus());
+  EXPECT_EQ(onPage.lineEdit()->selectedText(), "Anna");
+}
+
 }  // namespace
 }  // namespace parlate
