@@ -15,7 +15,11 @@
 #include "bench/Generator.h"
 #include "bench/HostedFile.h"
 #include "bench/Measure.h"
+#include "general/BinaryFile.h"
 #include "general/RuntimeError.h"
+#include "general/TextFile.h"
+#include "interchange/ConversationImport.h"
+#include "interchange/ExportConversation.h"
 #include "shell/EventRows.h"
 
 namespace {
@@ -35,6 +39,8 @@ struct Times {
   double save = 0;
   double check = 0;
   double list = 0;
+  double exported = 0;
+  double imported = 0;
   double rename = 0;
   double nameInUse = 0;
   double removeAll = 0;
@@ -55,6 +61,19 @@ std::size_t ListAll(const HostedFile& hosted) {
     }
   }
   return length;
+}
+
+std::string ExportAll(HostedFile& hosted) {
+  parlate::MemorySink sink;
+  parlate::TextWriter text(sink);
+  parlate::ExportConversations(hosted.file, &text, parlate::kExportDialog, true, hosted.Host());
+  return sink.Bytes();
+}
+
+void ImportAll(HostedFile& hosted, const std::string& exported) {
+  parlate::MemorySource source(exported);
+  parlate::TextReader text(source);
+  parlate::ConversationImport(hosted.file, text).ImportConversations(hosted.Host().progress);
 }
 
 /// Renames nodes that all stand under one actor: each goes from one end to the other.
@@ -91,6 +110,9 @@ Times Run(const FileShape& shape) {
   times.save = Milliseconds([&] { Keep(hosted.SaveBytes().size()); });
   times.check = Milliseconds([&] { Keep(hosted.CheckAllLabels()); });
   times.list = Milliseconds([&] { Keep(ListAll(hosted)); });
+  std::string exported;
+  times.exported = Milliseconds([&] { exported = ExportAll(hosted); });
+  times.imported = Milliseconds([&] { ImportAll(hosted, exported); });
   times.rename = RenameAmong(Siblings(shape));
   times.nameInUse = AskForNames(hosted);
   times.removeAll = Milliseconds([&] {
@@ -115,11 +137,13 @@ double Events(const FileShape& shape) {
 double SiblingsPassed(const FileShape& shape) { return double{kRenames} * Siblings(shape); }
 double NamesPassed(const FileShape& shape) { return double{kRenames} * shape.conversations; }
 
-constexpr std::array<Work, 7> kWorks = {{
+constexpr std::array<Work, 9> kWorks = {{
     {"load", "event", &Times::load, Events},
     {"save", "event", &Times::save, Events},
     {"check", "event", &Times::check, Events},
     {"list", "event", &Times::list, Events},
+    {"export", "event", &Times::exported, Events},
+    {"import", "event", &Times::imported, Events},
     {"rename in the tree", "sibling", &Times::rename, SiblingsPassed, kMostGrowthOfWalk},
     {"IsConNameInUse", "conversation", &Times::nameInUse, NamesPassed, kMostGrowthOfWalk},
     {"EventRemoveAll", "event", &Times::removeAll, Events},

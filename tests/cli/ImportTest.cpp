@@ -63,6 +63,18 @@ TEST_F(Import, TellsLineByLineWhatItCouldNotMatch) {
                 ":16: not a field: not a field; the rest of the conversation is passed over\n");
 }
 
+TEST_F(Import, TellsOfATextUnderNoConversationAndOfAFieldWithoutAText) {
+  const Ran ran = RunOn(
+      "[SPEECH: Zoe]\r\nlost\r\n[Owner: Zoe]\r\n[Name:  greeting]\r\n[SPEECH: Zoe]\r\n\r\n"
+      "[COMMENT]\r\n[SPEECH: Zoe ----------]\r\n[Owner: Zoe]\r\n[Name:  greeting]\r\n"
+      "[SPEECH: Zoe]\r\n");
+  EXPECT_EQ(ran.code, 0);
+  EXPECT_EQ(ran.err, text_ + ":1: [SPEECH: Zoe]: stands under no conversation\n" + text_ +
+                         ":5: [SPEECH:Zoe]: takes the next field for its text\n" + text_ +
+                         ":8: [SPEECH: Zoe ----------]: ten dashes end the conversation\n" + text_ +
+                         ":11: [SPEECH:Zoe]: has no text line\n");
+}
+
 TEST_F(Import, ShowsOnlyTheBeginningOfALongLine) {
   const Ran ran = RunOn("[Owner: Zoe]\r\n[Name:  greeting]\r\n" + std::string(5000, 'x') + "\r\n");
   EXPECT_EQ(ran.err, text_ + ":3: " + std::string(60, 'x') +

@@ -1,5 +1,8 @@
 #include "interchange/ConversationImport.h"
 
+#include <algorithm>
+#include <array>
+
 #include "model/Tables.h"
 #include "model/Vocabulary.h"
 
@@ -11,12 +14,29 @@ constexpr std::string_view kConversationBreak = "----------";
 constexpr std::string_view kOwner = "Owner:";
 constexpr std::string_view kChoiceHead = "CHOICES";
 constexpr std::string_view kChoiceField = "CHOICE";
+constexpr std::uint64_t kLinesBetweenRepaints = 4096;
 
 bool Holds(const std::string& text, std::string_view searched) {
   return text.find(searched) != std::string::npos;
 }
 
 std::string Number(std::size_t number) { return std::to_string(number); }
+
+bool IsOnlyDashes(std::string_view line) {
+  return line.find_first_not_of('-') == std::string_view::npos;
+}
+
+/// Whether a line that is taken for a text was meant to be what comes behind the text. A text may
+/// well stand in brackets, so only the fields of an exported text count.
+bool IsFieldOrBreak(std::string line) {
+  if (Holds(line, kConversationBreak) && IsOnlyDashes(line)) return true;
+  std::string name;
+  std::string value;
+  if (!ParseImportField(line, name, value)) return false;
+  constexpr std::array<std::string_view, 7> kNames = {
+      "SPEECH", "COMMENT", kChoiceHead, kChoiceField, "GOAL", "NOTE", "Owner"};
+  return std::find(kNames.begin(), kNames.end(), name) != kNames.end();
+}
 
 }  // namespace
 
@@ -50,7 +70,33 @@ void ConversationImport::Miss(const Block& block, const std::string& reason) con
   if (listener_ != nullptr) listener_->NotMatched(block.line, block.text, reason);
 }
 
+void ConversationImport::MissBetweenConversations(const std::string& line) {
+  if (listener_ == nullptr || gapTold_ || IsOnlyDashes(line)) return;
+  Miss({text_.LineNumber(), line}, "stands under no conversation");
+  gapTold_ = true;
+}
+
+void ConversationImport::MissRest(const std::string& reason) {
+  Miss(field_, reason);
+  gapTold_ = true;
+}
+
+void ConversationImport::MissTextLine(const std::string& text) const {
+  if (listener_ == nullptr) return;
+  if (text.empty()) Miss(field_, "has no text line");
+  if (IsFieldOrBreak(text)) Miss(field_, "takes the next field for its text");
+}
+
+void ConversationImport::ReadLine(std::string& line) {
+  ReadNonBlankLine(text_, line);
+  if (progress_ == nullptr || text_.LineNumber() < nextRepaint_) return;
+  nextRepaint_ = text_.LineNumber() + kLinesBetweenRepaints;
+  progress_->LetRepaint();
+}
+
 void ConversationImport::ImportConversations(ProgressDisplay& progress) {
+  progress_ = &progress;
+  nextRepaint_ = text_.LineNumber() + kLinesBetweenRepaints;
   progress.Begin("Importing Conversations...", "", static_cast<int>(file_.Conversations.Count()));
   int imported = 0;
   while (!text_.AtEnd()) {
@@ -60,6 +106,7 @@ void ConversationImport::ImportConversations(ProgressDisplay& progress) {
   if (header_.line == 0)
     Miss({text_.LineNumber(), ""}, "the text names no owner of a conversation");
   progress.End();
+  progress_ = nullptr;
   file_.SetModified(true, nullptr);
 }
 
@@ -69,6 +116,7 @@ Conversation* ConversationImport::ImportCon() {
   if (!GetImportConHeader(conName, ownerName)) return nullptr;
   const auto found = conversations_.find({conName, ownerName});
   if (found == conversations_.end()) {
+    gapTold_ = true;
     Miss(header_, "the file has no conversation \"" + conName + "\" of \"" + ownerName + "\"");
     return nullptr;
   }
@@ -80,12 +128,16 @@ Boolean ConversationImport::GetImportConHeader(std::string& conName, std::string
   std::string unused;
   std::string line;
   do {
-    ReadNonBlankLine(text_, line);
-    if (!Holds(line, kOwner)) continue;
+    ReadLine(line);
+    if (!Holds(line, kOwner)) {
+      MissBetweenConversations(line);
+      continue;
+    }
+    gapTold_ = false;
     header_.line = text_.LineNumber();
     ParseImportField(line, unused, ownerName);
     header_.text = line;
-    ReadNonBlankLine(text_, line);
+    ReadLine(line);
     ParseImportField(line, unused, conName);
     return true;
   } while (!text_.AtEnd());
@@ -95,14 +147,21 @@ Boolean ConversationImport::GetImportConHeader(std::string& conName, std::string
 Boolean ConversationImport::GetNextField(std::string& fieldName, std::string& fieldValue,
                                          std::string& text) {
   std::string& line = field_.text;
-  ReadNonBlankLine(text_, line);
+  ReadLine(line);
   field_.line = text_.LineNumber();
-  if (Holds(line, kConversationBreak)) return false;
-  if (!ParseImportField(line, fieldName, fieldValue)) {
-    if (!line.empty()) Miss(field_, "not a field; the rest of the conversation is passed over");
+  if (Holds(line, kConversationBreak)) {
+    if (!IsOnlyDashes(line)) MissRest("ten dashes end the conversation");
     return false;
   }
-  if (fieldName != kChoiceHead) ReadNonBlankLine(text_, text);
+  if (!ParseImportField(line, fieldName, fieldValue)) {
+    if (!line.empty()) MissRest("not a field; the rest of the conversation is passed over");
+    return false;
+  }
+  // A line that ended no more than the choices of an event.
+  gapTold_ = false;
+  if (fieldName == kChoiceHead) return true;
+  ReadLine(text);
+  MissTextLine(text);
   return true;
 }
 

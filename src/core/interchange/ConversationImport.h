@@ -67,15 +67,24 @@ class ConversationImport {
   }
   void SetChoice(EventChoice& eventChoice, std::size_t place, const std::string& fieldName,
                  const std::string& text);
+  /// As `ReadNonBlankLine`; lets the interface repaint now and then.
+  void ReadLine(std::string& line);
   void Miss(const Block& block, const std::string& reason) const;
+  /// The field ends its conversation, and what is skipped behind it needs no word of its own.
+  void MissRest(const std::string& reason);
+  void MissTextLine(const std::string& text) const;
+  void MissBetweenConversations(const std::string& line);
 
   ConversationFile& file_;
   TextReader& text_;
   ImportListener* listener_;
+  ProgressDisplay* progress_ = nullptr;
+  std::uint64_t nextRepaint_ = 0;
   /// By name and owner: the first in the collection.
   std::map<std::pair<std::string_view, std::string_view>, Conversation*> conversations_;
-  Block field_;   ///< What `GetNextField` read last.
-  Block header_;  ///< What `GetImportConHeader` read last.
+  Block field_;           ///< What `GetNextField` read last.
+  Block header_;          ///< What `GetImportConHeader` read last.
+  bool gapTold_ = false;  ///< The listener knows of the lines up to the next header.
 };
 
 /// Takes the blanks out of `line`, in place, and gives what stands between its first and last

@@ -20,6 +20,7 @@ namespace {
 
 constexpr int kMostHistoryEntries = 10;
 constexpr std::int32_t kNoHit = -1;
+constexpr std::size_t kEventsBetweenRepaints = 4096;
 
 /// The nodes of the tree in the order in which they are shown, counted from 1. Behind the last one
 /// comes the first.
@@ -66,10 +67,11 @@ class NodeRing {
 
 /// The first event at or behind `from`, and ahead of `to`, that holds the text.
 std::int32_t FindIn(const Conversation* con, std::int32_t from, std::int32_t to,
-                    const TextQuery& query) {
+                    const TextQuery& query, ProgressDisplay& progress) {
   if (con == nullptr) return kNoHit;
   const auto end = std::min(static_cast<std::size_t>(to), con->events.Count());
   for (auto i = static_cast<std::size_t>(from); i < end; ++i) {
+    if ((i + 1) % kEventsBetweenRepaints == 0) progress.LetRepaint();
     const EventItem& event = *con->events.Place(i + 1);
     if (event.FindString(query.text, query.bWholeWord, query.method, query.eventType)) {
       return static_cast<std::int32_t>(i);
@@ -112,7 +114,7 @@ bool Shell::FindNext(const TextQuery& query, bool bAllCons) {
 
   const auto findAt = [&](std::int32_t node, std::int32_t from, std::int32_t to) {
     const auto con = GetConFromID(ring.At(node).id);
-    const std::int32_t hit = FindIn(con.get(), from, to, query);
+    const std::int32_t hit = FindIn(con.get(), from, to, query, doors_.progress);
     if (hit == kNoHit) return false;
     SelectFound(ring.At(node));
     events_.SetListIndex(con->events.Place(static_cast<std::size_t>(hit) + 1)->listPos);
@@ -133,6 +135,9 @@ bool Shell::FindNext(const TextQuery& query, bool bAllCons) {
     if (findAt(node, 0, INT32_MAX)) return true;
   }
   // Round the tree: what is left stands ahead of the place where the walk began.
+  // Meant: a repeat compares its place with the last hit after it has moved on to the next
+  // conversation, not on an actor or a flag ahead of that one. So it ends at the last hit, and does
+  // not find it again, also where that is the first event of a conversation.
   return findAt(start, 0, startEvent);
 }
 

@@ -1,6 +1,7 @@
 #include "editors/frmProperties.h"
 
 #include <QKeyEvent>
+#include <string>
 #include <vector>
 
 #include "general/CodePage.h"
@@ -180,8 +181,10 @@ bool frmProperties::IsRadiusFit() {
   try {
     static_cast<void>(NumericValue(FromQString(txtInvokeRadius.text())));
     return true;
-  } catch (const RuntimeError&) {
+  } catch (const RuntimeError& error) {
     // A number that the file cannot hold is left to the user to correct.
+    messages_.Show({"", "Error " + std::to_string(error.Number()) + ": " + error.Description(),
+                    MessageBox::Icon::None, MessageBox::Buttons::Ok});
     SetTab(kInvokeTab);
     txtInvokeRadius.setFocus();
     txtInvokeRadius.selectAll();

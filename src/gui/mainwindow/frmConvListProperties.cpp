@@ -1,8 +1,10 @@
 // New files and conversations, their properties, and the search.
 
 #include <QApplication>
+#include <QFileDialog>
 #include <QFocusEvent>
 #include <QLineEdit>
+#include <QMessageBox>
 
 #include "mainwindow/frmConvList.h"
 
@@ -80,9 +82,12 @@ void frmConvList::FindQuickly() {
 }
 
 void frmConvList::FindBoxWindowLeft() {
-  // From a dialog, and from another program, the focus comes back to the box.
+  // From another program, and from what the search itself shows, the focus comes back to the box.
   const QWidget* active = QApplication::activeWindow();
-  if (active != nullptr && active != this && !active->isModal()) shell_.ResetSearch();
+  if (active == nullptr || active == this || active == find_.get()) return;
+  const bool asks = qobject_cast<const QMessageBox*>(active) != nullptr ||
+                    qobject_cast<const QFileDialog*>(active) != nullptr;
+  if (!asks) shell_.ResetSearch();
 }
 
 bool frmConvList::FindBoxEvent(QEvent* event) {

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QRegularExpression>
 
 #include "widgets/CodePageText.h"
@@ -42,6 +43,13 @@ std::string Run(QFileDialog& window) {
   return QFile::encodeName(window.selectedFiles().constFirst()).toStdString();
 }
 
+/// A file that exists is meant as it is named, also without a point in its name.
+std::string WithExtension(const std::string& path, const QString& extension) {
+  const QFileInfo file(QFile::decodeName(path.c_str()));
+  if (path.empty() || file.fileName().contains(u'.') || file.exists()) return path;
+  return path + "." + extension.toStdString();
+}
+
 }  // namespace
 
 std::string QtFileDialogs::ShowOpen(const FileDialog& dialog) {
@@ -58,10 +66,12 @@ std::string QtFileDialogs::ShowSave(const FileDialog& dialog) {
   window.setOption(QFileDialog::DontUseNativeDialog);
   window.setAcceptMode(QFileDialog::AcceptSave);
   window.setFileMode(QFileDialog::AnyFile);
-  window.setDefaultSuffix(DefaultExtension(dialog.filter));
+  const QString extension = DefaultExtension(dialog.filter);
+  if (dialog.asksToReplace) window.setDefaultSuffix(extension);
   window.setOption(QFileDialog::DontConfirmOverwrite, !dialog.asksToReplace);
   SetUp(window, dialog);
-  return Run(window);
+  const std::string path = Run(window);
+  return dialog.asksToReplace ? path : WithExtension(path, extension);
 }
 
 QStringList NameFilters(const std::string& filter) {

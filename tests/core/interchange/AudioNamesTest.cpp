@@ -86,6 +86,28 @@ TEST_F(AudioNames, BehindZTheLettersGoOnInTheCharacterTableUpToItsEnd) {
   EXPECT_EQ(ErrorOf([&] { GenerateAudio(); }), 5) << "there is no character behind the last";
 }
 
+TEST_F(AudioNames, ALineOfASpeakerThatSixteenBitsCannotCountIsAnOverflow) {
+  AddCon(0, "C");
+  const EventSpeech* last = nullptr;
+  for (int i = 0; i < 32767; ++i) last = &AddSpeech(0, "");
+  AddSpeech(1, "");
+  EXPECT_EQ(ErrorOf([&] { GenerateAudio(); }), 0) << "another speaker counts anew";
+  EXPECT_EQ(last->audioFile, "Pack\\Alex\\C\\Alex32767.mp3");
+  const EventSpeech& beyond = AddSpeech(0, "");
+  EXPECT_EQ(ErrorOf([&] { GenerateAudio(); }), 6);
+  EXPECT_EQ(beyond.audioFile, "");
+}
+
+TEST_F(AudioNames, AChoiceEventThatSixteenBitsCannotCountIsAnOverflow) {
+  AddCon(0, "C");
+  for (int i = 0; i < 32766; ++i) AddChoices({});
+  const EventChoice& last = AddChoices({"x"});
+  EXPECT_EQ(ErrorOf([&] { GenerateAudio(); }), 0);
+  EXPECT_THAT(AudioOf(last), ElementsAre("Pack\\Alex\\C\\Choice32767a.mp3"));
+  AddChoices({"x"});
+  EXPECT_EQ(ErrorOf([&] { GenerateAudio(); }), 6);
+}
+
 TEST_F(AudioNames, EveryNameIsReplacedTypedOnesAndThoseOfUnspokenChoicesToo) {
   AddCon(0, "C");
   EventSpeech& speech = AddSpeech(0, "");

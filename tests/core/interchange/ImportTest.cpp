@@ -69,7 +69,9 @@ TEST_F(Import, ATextInTheLayoutOfTheFilenamesImportsNothing) {
   Bring(Exported(kExportFilenames));
   EXPECT_EQ(speech.speech, "old");
   EXPECT_TRUE(File().IsModified());
-  EXPECT_THAT(missed_, ElementsAre("1 : the text names no owner of a conversation"));
+  EXPECT_THAT(missed_, ElementsAre("1 Zoe^Pack^Talk^old^Pack\\Zoe\\Talk\\Zoe01.mp3: stands under "
+                                   "no conversation",
+                                   "1 : the text names no owner of a conversation"));
 }
 
 TEST_F(Import, AnEmptyTextMarksTheFileAsChangedAllTheSame) {
@@ -178,7 +180,8 @@ TEST_F(Import, AnEmptySpeechTakesTheNextFieldForItsTextAndLosesStep) {
   EXPECT_EQ(first.speech, "[SPEECH: Alex]") << "the blanks of a text line stay";
   EXPECT_EQ(second.speech, "old");
   EXPECT_THAT(missed_,
-              ElementsAre("9 old: not a field; the rest of the conversation is passed over"));
+              ElementsAre("5 [SPEECH:Zoe]: takes the next field for its text",
+                          "9 old: not a field; the rest of the conversation is passed over"));
 }
 
 TEST_F(Import, ChangingTheSpeakerHasNoEffect) {
@@ -237,7 +240,8 @@ TEST_F(Import, AnUnknownFieldTakesItsTextLineAway) {
   const EventSpeech& speech = AddSpeech(1, "old");
   BringTalk({"[WHISPER: Zoe]", "[SPEECH: Zoe]", "[SPEECH: Zoe]", "new"});
   EXPECT_EQ(speech.speech, "new");
-  EXPECT_THAT(missed_, ElementsAre("5 [WHISPER:Zoe]: no field that is imported here"));
+  EXPECT_THAT(missed_, ElementsAre("5 [WHISPER:Zoe]: takes the next field for its text",
+                                   "5 [WHISPER:Zoe]: no field that is imported here"));
 }
 
 TEST_F(Import, FieldNamesAreComparedExactly) {
@@ -328,8 +332,11 @@ TEST_F(Import, TenDashesAnywhereInALineEndTheConversation) {
   const EventSpeech& speech = AddSpeech(1, "old");
   BringTalk({"[SPEECH: ----------]", "new"});
   EXPECT_EQ(speech.speech, "old");
+  EXPECT_THAT(missed_, ElementsAre("5 [SPEECH: ----------]: ten dashes end the conversation"))
+      << "what is skipped behind it is told by this";
   BringTalk({"[SPEECH: ---------]", "with ---------- in it"});
   EXPECT_EQ(speech.speech, "with ---------- in it") << "nine, and any number in a text line";
+  EXPECT_THAT(missed_, IsEmpty());
 }
 
 TEST_F(Import, BlanksRoundALineDoNotCount) {
@@ -368,6 +375,89 @@ TEST_F(Import, TheLastLineNeedsNoEnd) {
   EXPECT_EQ(speech.speech, "new");
   Bring("[Owner: Zoe]\r\n[Name: Talk]\r\n[SPEECH: Zoe]");
   EXPECT_EQ(speech.speech, "") << "a field without a text line has an empty one";
+  EXPECT_THAT(missed_, ElementsAre("3 [SPEECH:Zoe]: has no text line"));
+}
+
+TEST_F(Import, ATextUnderNoConversationIsToldOnceForEachGap) {
+  AddTalk();
+  const EventSpeech& speech = AddSpeech(1, "old");
+  Bring(Text({"",
+              "---",
+              "[SPEECH: Zoe]",
+              "too early",
+              "",
+              kDashes,
+              "[Owner: Zoe]",
+              "[Name:  Talk]",
+              "",
+              "[SPEECH: Zoe]",
+              "new",
+              "",
+              kDashes,
+              "",
+              "[SPEECH: Zoe]",
+              "its header was deleted",
+              "",
+              kDashes,
+              "[Owner: Zoe]",
+              "[Name:  Talk]"}));
+  EXPECT_EQ(speech.speech, "new");
+  EXPECT_THAT(missed_, ElementsAre("3 [SPEECH: Zoe]: stands under no conversation",
+                                   "15 [SPEECH: Zoe]: stands under no conversation"));
+}
+
+TEST_F(Import, AfterAMissThatEndsAConversationOnlyTheNextGapIsToldAgain) {
+  AddTalk();
+  AddSpeech(1, "old");
+  Bring(Text({"[Owner: Nobody]", "[Name:  Gone]", "", "[SPEECH: Zoe]", "lost", kDashes,
+              "[Owner: Zoe]", "[Name:  Talk]", "no field", "lost", kDashes, "[Owner: Zoe]",
+              "[Name:  Talk]", kDashes, "no header"}));
+  EXPECT_THAT(missed_,
+              ElementsAre("1 [Owner:Nobody]: the file has no conversation \"Gone\" of \"Nobody\"",
+                          "9 no field: not a field; the rest of the conversation is passed over",
+                          "15 no header: stands under no conversation"));
+}
+
+TEST_F(Import, ALineThatEndsTheChoicesAloneLeavesTheNextGapToBeTold) {
+  AddTalk();
+  AddChoices({"old", "old"});
+  const EventAddNote& note = AddNote("old");
+  BringTalk({"[CHOICES:2]", "[CHOICE:]", "a", "no field", "[NOTE:]", "new", kDashes, "no header"});
+  EXPECT_EQ(note.noteText, "new");
+  EXPECT_THAT(missed_,
+              ElementsAre("8 no field: not a field; the rest of the conversation is passed over",
+                          "5 [CHOICES:2]: the event has 2 choices, the text 1",
+                          "12 no header: stands under no conversation"));
+}
+
+TEST_F(Import, EachFieldThatAnExportWritesIsToldWhenItIsTakenForAText) {
+  AddTalk();
+  const EventSpeech& speech = AddSpeech(1, "old");
+  for (const std::string line : {"[SPEECH: Zoe]", "[COMMENT]", "[CHOICES:2]", "[CHOICE:]",
+                                 "[GOAL:]", "[NOTE:]", "[Owner: Zoe]", "----------"}) {
+    BringTalk({"[SPEECH: Zoe]", line});
+    EXPECT_EQ(speech.speech, line);
+    EXPECT_THAT(missed_, ElementsAre("5 [SPEECH:Zoe]: takes the next field for its text"));
+  }
+  for (const std::string line : {"[laughs]", "[Name:  Talk]", "---------", "SPEECH", "yes - no"}) {
+    BringTalk({"[SPEECH: Zoe]", line});
+    EXPECT_EQ(speech.speech, line);
+    EXPECT_THAT(missed_, IsEmpty()) << line;
+  }
+}
+
+TEST_F(Import, ALongTextLetsTheInterfaceRepaintAlsoWhereNothingMatches) {
+  AddTalk();
+  open_.progress.repaints = 0;
+  Bring(Text(std::vector<std::string>(4095, "nothing")));
+  EXPECT_EQ(open_.progress.repaints, 0);
+  Bring(Text(std::vector<std::string>(3 * 4096, "nothing")));
+  EXPECT_EQ(open_.progress.repaints, 3);
+  std::vector<std::string> lines;
+  for (int i = 0; i < 4096; ++i) lines.insert(lines.end(), {"[NOTE:]", "n"});
+  open_.progress.repaints = 0;
+  BringTalk(lines);
+  EXPECT_EQ(open_.progress.repaints, 2) << "8196 lines of one conversation";
 }
 
 TEST_F(Import, AByteOrderMarkAheadOfTheFirstHeaderDoesNotHideIt) {

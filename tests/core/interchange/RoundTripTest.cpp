@@ -111,6 +111,66 @@ TEST_F(RoundTrip, OfAnEmptyTextAtTheEndOfAConversationTakesTheDashes) {
   EXPECT_THAT(GoRound(), ElementsAre("Talk 1 speech: " + kDashes));
 }
 
+TEST_F(RoundTrip, OfAnEmptyChoiceTakesTheFieldOfTheNextOneAndGoesOnBehindTheChoices) {
+  AddCon(0, "Talk");
+  AddChoices({"", "second"});
+  AddNote(" imported");
+  // The text of the second choice stands where a field has to be, which ends the choices alone.
+  EXPECT_THAT(GoRound(), ElementsAre("Talk 1 choice 0: [CHOICE:]", "Talk 2 note: imported"));
+}
+
+TEST_F(RoundTrip, OfAnEmptyCommentGoalOrNoteTakesTheNextFieldToo) {
+  AddCon(0, "Comment");
+  AddComment("");
+  AddNote(" not imported");
+  AddCon(0, "Goal");
+  AddGoal("", false);
+  AddNote(" not imported");
+  AddCon(0, "Note");
+  AddNote("");
+  AddNote(" not imported");
+  EXPECT_THAT(GoRound(), ElementsAre("Comment 1 comment: [NOTE:]", "Goal 1 goal: [NOTE:]",
+                                     "Note 1 note: [NOTE:]"));
+}
+
+TEST_F(RoundTrip, OfATextOfBlanksAloneIsThatOfAnEmptyOne) {
+  AddCon(0, "Talk");
+  AddSpeech(0, "   ");
+  AddNote("lost");
+  EXPECT_THAT(GoRound(), ElementsAre("Talk 1 speech: [NOTE:]"));
+}
+
+TEST_F(RoundTrip, ALineBreakAtEitherEndOfATextIsLost) {
+  AddCon(0, "Talk");
+  AddSpeech(0, "\r\nleading");
+  AddSpeech(0, "trailing\r\n");
+  AddNote(" imported");
+  EXPECT_THAT(GoRound(), ElementsAre("Talk 1 speech: leading", "Talk 2 speech: trailing",
+                                     "Talk 3 note: imported"));
+}
+
+TEST_F(RoundTrip, OfASecondLineThatIsAFieldGoesToTheNextEventOfItsType) {
+  AddCon(0, "Talk");
+  AddSpeech(0, "one\r\n[NOTE:]\r\ntwo");
+  AddNote("old");
+  AddNote("last");
+  // Both notes of the text find an event, and the third finds none.
+  EXPECT_THAT(GoRound(), ElementsAre("Talk 1 speech: one", "Talk 2 note: two", "Talk 3 note: old"));
+}
+
+TEST_F(RoundTrip, OfASecondLineThatHoldsOwnerBeginsNoOtherConversation) {
+  AddCon(0, "Talk");
+  AddSpeech(0, "one\r\n[Owner: Alex]\r\n[Name: Other]\r\n[NOTE:]\r\ntwo");
+  AddNote("old");
+  AddCon(0, "Then");
+  AddSpeech(0, "one\r\nThe Owner: of this");
+  AddNote(" not imported");
+  // Within a conversation that is read, a line in brackets is only a field, and unknown: its text
+  // line goes with it. A line without brackets ends the conversation.
+  EXPECT_THAT(GoRound(),
+              ElementsAre("Talk 1 speech: one", "Talk 2 note: two", "Then 1 speech: one"));
+}
+
 TEST_F(RoundTrip, OfAnOpenGoalGoesToACompletedOneAheadOfIt) {
   AddCon(0, "Talk");
   AddGoal("", true);

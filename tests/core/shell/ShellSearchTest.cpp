@@ -245,6 +245,23 @@ TEST_F(ShellSearch, TheInterfaceMayRepaintAtEachConversation) {
   EXPECT_FALSE(program_.progress.showing);
 }
 
+TEST_F(ShellSearch, TheInterfaceMayRepaintWithinALongConversationToo) {
+  std::vector<EventFields> events;
+  for (std::int32_t key = 1; key <= 2 * 4096; ++key) events.push_back(Comment(key, "", ""));
+  Open(FileOf(HarbourTables(), {Con(0, "long", kZoe, events)}));
+  Click("C0");
+  program_.progress.repaints = 0;
+  ExpectNotFound([this] { return Find("no such text"); });
+  EXPECT_EQ(program_.progress.repaints, 2);
+}
+
+TEST_F(ShellSearch, ARepeatEndsAtTheOneHitAlsoWhereItIsTheFirstEventBehindAnActor) {
+  Click("C2");
+  EXPECT_TRUE(FindAll("say"));
+  ExpectAt(2, 0);
+  ExpectNotFound([this] { return FindAll("say"); });
+}
+
 TEST_F(ShellSearch, CommandsFollowTheConversationThatASearchCameTo) {
   const int before = program_.view.commandStateUpdates;
   ExpectNotFound([this] { return FindAll("no such text"); });

@@ -443,10 +443,33 @@ TEST_F(FrmPropertiesTest, ADistanceWithoutItsTickStoresNought) {
 TEST_F(FrmPropertiesTest, ADistanceThatTheFileCannotHoldKeepsTheFormOpen) {
   con_->bInvokeRadius = true;
   The<QLineEdit>("txtInvokeRadius").setText("99999999999");
+  space_.messages.Expect(Answer::Ok);
   Click("cmdOK");
+  ASSERT_EQ(space_.messages.shown.size(), 1U);
+  const MessageBox& box = space_.messages.shown.back();
+  EXPECT_EQ(box.title, "");
+  EXPECT_EQ(box.text, "Error 6: Overflow");
+  EXPECT_EQ(box.icon, MessageBox::Icon::None);
+  EXPECT_EQ(box.buttons, MessageBox::Buttons::Ok);
   EXPECT_TRUE(Form().isVisible());
   EXPECT_TRUE(The<QLineEdit>("txtInvokeRadius").hasFocus());
+  EXPECT_EQ(The<QLineEdit>("txtInvokeRadius").selectedText(), "99999999999");
   EXPECT_EQ(con_->invokeRadius, 0);
+}
+
+TEST_F(FrmPropertiesTest, AHoloCallTakesTheOptionsThatItExcludesFromTheConversation) {
+  con_->bNonInteractive = true;
+  con_->bFirstPerson = true;
+  con_->bRandomCamera = true;
+  con_->bCanBeInterrupted = true;
+  GoTo(kOptions);
+  Tick("chkHoloCall");
+  Click("cmdOK");
+  EXPECT_TRUE(con_->bHoloCallCon);
+  EXPECT_FALSE(con_->bNonInteractive);
+  EXPECT_FALSE(con_->bFirstPerson);
+  EXPECT_FALSE(con_->bRandomCamera);
+  EXPECT_FALSE(con_->bCanBeInterrupted);
 }
 
 TEST_F(FrmPropertiesTest, AFlagIsPickedAndReachesTheConversationOnOkOnly) {

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QMessageBox>
 #include <QRadioButton>
 #include <QToolBar>
 
@@ -330,6 +331,40 @@ TEST_F(FindTest, LosingTheFocusBeginsTheQuickSearchAnewAtTheSelectedRow) {
   ExpectAt(0, 0);
 }
 
+TEST_F(FindTest, AnotherWindowOfTheProgramEndsTheQuickSearch) {
+  program_.ClickNode("C0");
+  Search("h");
+  ExpectAt(0, 0);
+  bool came = false;
+  WhenFormShows("frmProperties", [&came](QWidget& form) {
+    came = true;
+    QTest::mouseClick(&ControlNamed<QPushButton>(form, "cmdCancel"), Qt::LeftButton);
+  });
+  program_.Choose("mnuConProperties");
+  ASSERT_TRUE(came);
+  program_.Activate();
+  ASSERT_TRUE(QTest::qWaitFor([this] { return Box().hasFocus(); }));
+  QTest::keyClick(&Box(), Qt::Key_Return);
+  ExpectAt(0, 0);
+  QTest::keyClick(&Box(), Qt::Key_Return);
+  ExpectAt(0, 2);
+}
+
+TEST_F(FindTest, AMessageBoxLeavesTheQuickSearchWhereItIs) {
+  program_.ClickNode("C0");
+  Search("h");
+  ExpectAt(0, 0);
+  QMessageBox box(&program_.Window());
+  box.open();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&box));
+  QCoreApplication::processEvents();
+  box.close();
+  program_.Activate();
+  ASSERT_TRUE(QTest::qWaitFor([this] { return Box().hasFocus(); }));
+  QTest::keyClick(&Box(), Qt::Key_Return);
+  ExpectAt(0, 2);
+}
+
 TEST_F(FindTest, ChoosingAnEntryOfTheQuickBoxSearches) {
   program_.ClickNode("C0");
   Search("comment");
@@ -367,18 +402,45 @@ TEST_F(FindTest, WithoutANodeThereIsNothingToFind) {
   EXPECT_FALSE(Box().isEnabled());
 }
 
+/// Counts what reaches it from a keyboard and a mouse.
+class InputCounter final : public QWidget {
+ public:
+  int keys = 0;
+  int clicks = 0;
+
+ protected:
+  void keyPressEvent(QKeyEvent*) override { ++keys; }
+  void mousePressEvent(QMouseEvent*) override { ++clicks; }
+};
+
+/// Puts a key and a click among the events that the platform has for a window.
+void PostInput(QWidget& widget) {
+  QWindow* window = widget.windowHandle();
+  qt_handleKeyEvent(window, QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, QStringLiteral("a"));
+  const QPointF at(10, 10);
+  qt_handleMouseEvent(window, at, widget.mapToGlobal(at), Qt::LeftButton, Qt::LeftButton,
+                      QEvent::MouseButtonPress, Qt::NoModifier, 1);
+}
+
 TEST_F(FindTest, ALongSearchLetsTheWindowPaintAndTakesNoInput) {
   frmProgress progress;
-  QWidget window;
+  InputCounter window;
   window.resize(50, 50);
   window.show();
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+  window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  PostInput(window);
   int done = 0;
   QMetaObject::invokeMethod(
       &window, [&done] { ++done; }, Qt::QueuedConnection);
   progress.LetRepaint();
   EXPECT_EQ(done, 1);
   EXPECT_TRUE(progress.isHidden());
+  EXPECT_EQ(window.keys, 0);
+  EXPECT_EQ(window.clicks, 0);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(window.keys, 1) << "it was only put off";
+  EXPECT_EQ(window.clicks, 1);
 }
 
 }  // namespace

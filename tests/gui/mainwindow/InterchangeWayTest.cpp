@@ -2,6 +2,7 @@
 
 #include <QLineEdit>
 #include <QPushButton>
+#include <algorithm>
 
 #include "general/Paths.h"
 #include "mainwindow/WindowFixture.h"
@@ -18,11 +19,31 @@ void Replace(std::string& text, const std::string& from, const std::string& to) 
   text.replace(at, from.size(), to);
 }
 
+/// Replaces a text of the file, with its length in front of it.
+void ReplaceStored(std::string& bytes, const std::string& from, const std::string& to) {
+  Replace(bytes, FileBytes(28).Str(from).Bytes(), FileBytes(28).Str(to).Bytes());
+}
+
+void ExpectSameBytes(const std::string& bytes, const std::string& expected) {
+  const auto differ = std::mismatch(bytes.begin(), bytes.end(), expected.begin(), expected.end());
+  EXPECT_TRUE(bytes == expected) << "they differ at " << differ.first - bytes.begin();
+}
+
 class InterchangeWay : public WindowTest {
  protected:
   std::string PutHarbour() {
     WriteBytes(folder.File("harbour.con"), HarbourFile());
     return folder.File("harbour.con");
+  }
+  /// The bytes of the file after a save on the same day.
+  std::string SavedWithoutChange() {
+    const std::string path = PutHarbour();
+    RunningProgram program;
+    EXPECT_TRUE(program.Start(path));
+    GoOnSaving();
+    program.Choose("mnuFileSave");
+    EXPECT_TRUE(program.Close());
+    return ReadBytes(path);
   }
   /// Chooses a command and starts its dialog with a file name that is typed.
   static void Run(RunningProgram& program, const char* command, const char* form,
@@ -41,6 +62,9 @@ class InterchangeWay : public WindowTest {
 };
 
 TEST_F(InterchangeWay, ExportedTextIsCorrectedImportedAndSaved) {
+  std::string expected = SavedWithoutChange();
+  ReplaceStored(expected, "Hello", "Good evening");
+  ReplaceStored(expected, "A comment", "A remark");
   const std::string path = PutHarbour();
   const std::string textPath = folder.File("text.txt");
   {
@@ -61,7 +85,8 @@ TEST_F(InterchangeWay, ExportedTextIsCorrectedImportedAndSaved) {
     program.Choose("mnuFileSave");
     EXPECT_TRUE(program.Close());
   }
-  // The same file, written down with the new texts, with the stamp of the save.
+  // Nothing else differs, to the last byte, from the file that was saved without an import.
+  ExpectSameBytes(ReadBytes(path), expected);
   RunningProgram again;
   ASSERT_TRUE(again.Start(path));
   const ConversationFile& file = *again.shell().GetConFile();

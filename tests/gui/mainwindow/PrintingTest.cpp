@@ -105,6 +105,22 @@ TEST_F(Printing, TheFilePropertiesPrintTheStatistics) {
   EXPECT_EQ(program.messages.shown.back().text, "Stats Printed to Recorder.");
 }
 
+TEST_F(Printing, StatisticsThatWereCountedTwicePrintTheRowsOfBothAndTheSpeakersOfTheLast) {
+  program.messages.Expect(Answer::Ok);
+  WhenFormShows("frmFileProperties", [](QWidget& form) {
+    auto& tabs = ControlNamed<QTabWidget>(form, "tabProperties");
+    tabs.setCurrentIndex(2);
+    tabs.setCurrentIndex(0);
+    tabs.setCurrentIndex(2);
+    Click(form, "cmdPrint");
+    Click(form, "cmdCancel");
+  });
+  program.Choose("mnuFileProperties");
+  EXPECT_THAT(program.printers.Texts(),
+              ElementsAre("Parlate Table: CONVERSATION STATS, FILE = HARBOUR.CON", "Alex", "2",
+                          "Zoe", "2", "Total Unique Speakers:   0", "Total Speech Events:   2"));
+}
+
 /// What a reader finds in a PDF.
 QString TextOf(const std::string& path) {
   QProcess reader;

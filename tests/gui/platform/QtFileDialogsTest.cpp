@@ -141,5 +141,26 @@ TEST_F(QtFileDialogsTest, AnExistingFileThatIsToBeReadIsTakenWithoutAQuestion) {
   EXPECT_EQ(dialogs_.ShowSave(dialog), File("Lines.txt"));
 }
 
+TEST_F(QtFileDialogsTest, AnExistingFileThatIsToBeReadNeedsNoPointInItsName) {
+  WriteBytes(File("Lines"), "old");
+  const auto take = [this](const QString& name) {
+    const WhenModal modal([&name](QWidget& window) { EnterName(window, name); });
+    FileDialog dialog = Dialog();
+    dialog.filter = "All Files (*.*)|*.*|Text Files (*.txt)|*.txt";
+    dialog.asksToReplace = false;
+    return dialogs_.ShowSave(dialog);
+  };
+  EXPECT_EQ(take("Lines"), File("Lines"));
+  EXPECT_EQ(take("Others"), File("Others.txt")) << "no such file";
+  EXPECT_EQ(take("Others.old"), File("Others.old"));
+}
+
+TEST_F(QtFileDialogsTest, ACancelledDialogForAFileToBeReadGivesNothing) {
+  const WhenModal modal([](QWidget& window) { QTest::keyClick(&window, Qt::Key_Escape); });
+  FileDialog dialog = Dialog();
+  dialog.asksToReplace = false;
+  EXPECT_EQ(dialogs_.ShowSave(dialog), "");
+}
+
 }  // namespace
 }  // namespace parlate
