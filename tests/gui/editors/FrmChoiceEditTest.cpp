@@ -445,7 +445,7 @@ TEST_F(FrmChoiceEditTest, TheAccessKeyOfOkAsksOnceAndDropsNoTypedSkill) {
         [&] { return messages.shown > 0 && QApplication::activeModalWidget() == &form; }));
     QTest::qWait(250);
     EXPECT_TRUE(form.isVisible());
-    EXPECT_TRUE(Combo(form, "cboSkills").hasFocus());
+    EXPECT_EQ(form.focusWidget(), &Combo(form, "cboSkills"));
     EXPECT_EQ(Combo(form, "cboSkills").Text(), "Fly");
   }));
   EXPECT_EQ(messages.shown, 1);

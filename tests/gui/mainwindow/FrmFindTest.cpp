@@ -402,45 +402,18 @@ TEST_F(FindTest, WithoutANodeThereIsNothingToFind) {
   EXPECT_FALSE(Box().isEnabled());
 }
 
-/// Counts what reaches it from a keyboard and a mouse.
-class InputCounter final : public QWidget {
- public:
-  int keys = 0;
-  int clicks = 0;
-
- protected:
-  void keyPressEvent(QKeyEvent*) override { ++keys; }
-  void mousePressEvent(QMouseEvent*) override { ++clicks; }
-};
-
-/// Puts a key and a click among the events that the platform has for a window.
-void PostInput(QWidget& widget) {
-  QWindow* window = widget.windowHandle();
-  qt_handleKeyEvent(window, QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, QStringLiteral("a"));
-  const QPointF at(10, 10);
-  qt_handleMouseEvent(window, at, widget.mapToGlobal(at), Qt::LeftButton, Qt::LeftButton,
-                      QEvent::MouseButtonPress, Qt::NoModifier, 1);
-}
-
-TEST_F(FindTest, ALongSearchLetsTheWindowPaintAndTakesNoInput) {
+TEST_F(FindTest, ALongSearchLetsTheWindowPaint) {
   frmProgress progress;
-  InputCounter window;
+  QWidget window;
   window.resize(50, 50);
   window.show();
-  window.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-  PostInput(window);
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
   int done = 0;
   QMetaObject::invokeMethod(
       &window, [&done] { ++done; }, Qt::QueuedConnection);
   progress.LetRepaint();
   EXPECT_EQ(done, 1);
   EXPECT_TRUE(progress.isHidden());
-  EXPECT_EQ(window.keys, 0);
-  EXPECT_EQ(window.clicks, 0);
-  QCoreApplication::processEvents();
-  EXPECT_EQ(window.keys, 1) << "it was only put off";
-  EXPECT_EQ(window.clicks, 1);
 }
 
 }  // namespace
