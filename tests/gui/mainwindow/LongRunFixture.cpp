@@ -271,6 +271,7 @@ void LongRunTest::ChangeNote() {
 void LongRunTest::DeleteThirdSpeech() {
   Click("cmdClose");
   EXPECT_FALSE(Editor().isVisible());
+  program_.Activate();
   program_.ClickRow(2);
   program_.messages.Expect(Answer::Yes);
   program_.Press(Qt::Key_Delete);
