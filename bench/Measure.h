@@ -1,5 +1,6 @@
 #pragma once
 
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -73,6 +74,13 @@ auto InChild(Work work) -> std::invoke_result_t<Work> {
     std::fclose(statm);
   }
   return static_cast<std::size_t>(pages) * static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
+}
+
+/// The most that has been resident of this process, in kilobytes.
+[[nodiscard]] inline double PeakKilobytes() {
+  rusage usage{};
+  if (::getrusage(RUSAGE_SELF, &usage) != 0) throw std::runtime_error("no usage can be told");
+  return static_cast<double>(usage.ru_maxrss);
 }
 
 }  // namespace parlate::bench

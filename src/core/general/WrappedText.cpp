@@ -11,14 +11,18 @@ constexpr int kRightReserve = 2000;
 WrappedText::WrappedText(const PrintSurface& surface, int firstX, int nextX,
                          std::string_view text) {
   constexpr std::size_t kNone = std::string_view::npos;
+  const int right = surface.Width() - kRightReserve;
   int x = firstX;
   std::size_t lineStart = 0;  // of what is printed
-  std::size_t measured = 0;   // start of what is measured
+  std::size_t measured = 0;   // start of what counts for the height
+  std::size_t lastLine = 0;   // start of its last line; the lines above it fit already
   std::size_t lastBlank = kNone;
   for (std::size_t i = 0; i < text.size(); ++i) {
     if (text[i] == ' ') lastBlank = i;
+    if (text[i] == '\r' || text[i] == '\n') lastLine = i + 1;
+    const int width = surface.TextWidth(text.substr(lastLine, i + 1 - lastLine));
+    if (width <= right - x) continue;
     const std::string_view line = text.substr(measured, i + 1 - measured);
-    if (surface.TextWidth(line) <= surface.Width() - x - kRightReserve) continue;
     height_ += surface.TextHeight(line);
     if (lastBlank == kNone) {
       lines_.push_back({ToTwips(x), line});
@@ -30,6 +34,7 @@ WrappedText::WrappedText(const PrintSurface& surface, int firstX, int nextX,
     }
     x = nextX;
     measured = i + 1;
+    lastLine = measured;
   }
   height_ += surface.TextHeight(text.substr(measured));
   lines_.push_back({ToTwips(x), text.substr(lineStart)});

@@ -93,7 +93,9 @@ double QtPrintSurface::LineWidth(std::string_view line) const {
 
 void QtPrintSurface::DrawText(std::string_view line) {
   const MeasuredFont& font = Measured();
-  painter_.setFont(font.font);
+  // A painter looks a font up anew whenever it is set.
+  if (paintedFont_ != lastFont_) painter_.setFont(font.font);
+  paintedFont_ = lastFont_;
   painter_.drawText(QPointF(CurrentX, CurrentY + font.ascent), DrawnText(line));
 }
 

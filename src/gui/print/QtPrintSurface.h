@@ -4,6 +4,7 @@
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -53,6 +54,7 @@ class QtPrintSurface : public PrintSurface {
   QPainter painter_;
   mutable std::vector<MeasuredFont> fonts_;  ///< A run uses a handful.
   mutable std::size_t lastFont_ = 0;
+  std::optional<std::size_t> paintedFont_;
 };
 
 /// Gives a device one twip a unit and the narrowest margins that it can print to, but no narrower
