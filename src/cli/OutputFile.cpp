@@ -7,6 +7,8 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
 #include "general/Paths.h"
@@ -22,6 +24,19 @@ namespace {
   throw RuntimeError(number, path + ": " + ErrorDescription(number));
 }
 
+/// Something that is there and is no file: a terminal, a pipe, a device. It must not be replaced.
+bool IsDevice(const std::string& path) {
+  struct stat status {};
+  return ::stat(path.c_str(), &status) == 0 && !S_ISREG(status.st_mode);
+}
+
+/// The file that a link stands for, so that the link stays.
+std::string FollowLinks(const std::string& path) {
+  std::error_code error;
+  const auto target = std::filesystem::canonical(path, error);
+  return error ? path : target.string();
+}
+
 /// mkstemp makes a file for the owner alone; a fresh file has what the umask leaves.
 void GiveUsualMode(int descriptor) {
   const mode_t mask = ::umask(0);
@@ -31,10 +46,17 @@ void GiveUsualMode(int descriptor) {
 
 }  // namespace
 
-OutputFile::OutputFile(std::string path) : path_(std::move(path)), temporary_(path_ + ".XXXXXX") {
+OutputFile::OutputFile(std::string path) : path_(std::move(path)) {
   if (FolderExists(path_)) {
     throw RuntimeError(RuntimeError::kPathFileAccessError, path_ + ": is a folder");
   }
+  if (IsDevice(path_)) {
+    descriptor_ = ::open(path_.c_str(), O_WRONLY | O_CLOEXEC);  // NOLINT: a system interface
+    if (descriptor_ < 0) RaiseErrno(path_);
+    return;
+  }
+  target_ = FollowLinks(path_);
+  temporary_ = target_ + ".XXXXXX";
   descriptor_ = ::mkstemp(temporary_.data());
   if (descriptor_ < 0) RaiseErrno(path_);
   GiveUsualMode(descriptor_);
@@ -43,7 +65,7 @@ OutputFile::OutputFile(std::string path) : path_(std::move(path)), temporary_(pa
 OutputFile::~OutputFile() {
   if (descriptor_ < 0) return;
   ::close(descriptor_);
-  ::unlink(temporary_.c_str());
+  if (!temporary_.empty()) ::unlink(temporary_.c_str());
 }
 
 void OutputFile::Write(const char* bytes, std::size_t size) {
@@ -57,9 +79,13 @@ void OutputFile::Write(const char* bytes, std::size_t size) {
 }
 
 void OutputFile::Commit() {
+  if (temporary_.empty()) {
+    if (::close(std::exchange(descriptor_, -1)) != 0) RaiseErrno(path_);
+    return;
+  }
   if (::fsync(descriptor_) != 0) RaiseErrno(path_);
   const int closed = ::close(std::exchange(descriptor_, -1));
-  if (closed != 0 || std::rename(temporary_.c_str(), path_.c_str()) != 0) {
+  if (closed != 0 || std::rename(temporary_.c_str(), target_.c_str()) != 0) {
     const int error = errno;
     ::unlink(temporary_.c_str());
     errno = error;

@@ -7,7 +7,8 @@
 namespace parlate::cli {
 
 /// A file that comes to be whole or not at all: the bytes go to a new file in the same folder,
-/// which takes the name on `Commit` and is removed otherwise.
+/// which takes the name on `Commit` and is removed otherwise. Devices and pipes are written to as
+/// they are, and of a link the file that it stands for.
 class OutputFile final : public ByteSink {
  public:
   explicit OutputFile(std::string path);
@@ -21,7 +22,8 @@ class OutputFile final : public ByteSink {
 
  private:
   std::string path_;
-  std::string temporary_;
+  std::string target_;
+  std::string temporary_;  ///< Empty for a device.
   int descriptor_ = -1;
 };
 

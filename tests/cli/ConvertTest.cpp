@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <string>
+#include <thread>
 
 #include "CliRun.h"
 #include "cli/OutputFile.h"
@@ -181,6 +182,27 @@ TEST_F(Convert, OutputAppearsOnlyWhenItIsWhole) {
   }
   EXPECT_EQ(ReadBytes(out_), "whole");
   EXPECT_EQ(FileCount(), 1U);
+}
+
+TEST_F(Convert, WritesIntoAPipeAndLeavesItThere) {
+  ASSERT_EQ(::mkfifo(out_.c_str(), 0600), 0);
+  std::string received;
+  std::thread reader([&] { received = ReadBytes(out_); });
+  const Ran ran = RunOn(SampleFile(28), {"--user", "carl", "--now", "46000.25"});
+  reader.join();
+  EXPECT_EQ(ran.code, 0) << ran.err;
+  EXPECT_EQ(received, SampleFileSaved(28, 46000.25, "carl"));
+  EXPECT_TRUE(std::filesystem::is_fifo(out_));
+}
+
+TEST_F(Convert, WritesTheFileThatALinkStandsForAndKeepsTheLink) {
+  const std::string target = folder_.File("target.con");
+  WriteBytes(target, "old");
+  std::filesystem::create_symlink(target, out_);
+  const Ran ran = RunOn(SampleFile(28), {"--user", "carl", "--now", "46000.25"});
+  EXPECT_EQ(ran.code, 0) << ran.err;
+  EXPECT_TRUE(std::filesystem::is_symlink(out_));
+  EXPECT_EQ(ReadBytes(target), SampleFileSaved(28, 46000.25, "carl"));
 }
 
 }  // namespace

@@ -103,6 +103,14 @@ TEST_F(Print, SaysSoInABuildWithoutTheToolkit) {
   EXPECT_FALSE(std::filesystem::exists(out_));
 }
 
+TEST_F(Print, SaysWhereItCannotWrite) {
+  out_ = folder_.File("nowhere/harbour.pdf");
+  const Ran ran = RunWith({});
+  EXPECT_EQ(ran.code, 2);
+  EXPECT_THAT(ran.err, HasSubstr("nowhere/harbour.pdf: Path not found"));
+  EXPECT_THAT(printers_.calls, IsEmpty());
+}
+
 TEST_F(Print, LeavesNothingBehindWhenThePrinterFails) {
   printers_.callsUntilFailure = 5;
   const Ran ran = RunWith({});

@@ -26,6 +26,7 @@ void RecordingSurface::DrawText(std::string_view line) {
   font += " " + std::to_string(Font.Size);
   if (Font.Bold) font += " bold";
   if (Font.Italic) font += " italic";
+  if (!FontTransparent) font += " opaque";
   Keep(std::to_string(CurrentX) + "," + std::to_string(CurrentY) + " " + font + ": " +
        std::string(line));
 }
@@ -40,10 +41,13 @@ void RecordingSurface::DrawBox(Twips x1, Twips y1, Twips x2, Twips y2) {
   Keep("box " + Corners(x1, y1, x2, y2) + (FillStyle == kSolid ? " solid " : " empty ") + color);
 }
 
-std::unique_ptr<PrintSurface> RecordingPrinters::ShowPrinterDialog() {
+std::unique_ptr<PrintSurface> RecordingPrinters::ShowPrinterDialog(const std::string& dialogTitle) {
   ++shown;
+  title = dialogTitle;
   if (cancels) return nullptr;
-  auto surface = std::make_unique<RecordingSurface>(calls);
+  if (fails) throw RuntimeError(RuntimeError::kPrinterError);
+  auto surface = std::make_unique<RecordingSurface>(calls, paper);
+  surface->FontTransparent = !opaque;
   surface->callsUntilFailure = callsUntilFailure;
   return surface;
 }
@@ -52,7 +56,7 @@ std::vector<std::string> RecordingPrinters::Texts() const {
   std::vector<std::string> texts;
   for (const std::string& call : calls) {
     const std::size_t at = call.find(": ");
-    if (at != std::string::npos) texts.push_back(call.substr(at + 2));
+    if (at != std::string::npos && at + 2 < call.size()) texts.push_back(call.substr(at + 2));
   }
   return texts;
 }

@@ -15,11 +15,18 @@ namespace parlate::testing_support {
 /// 10000 x 12000 twips to print on and is 11000 wide: margins of 500 and 600, text up to 11400.
 class RecordingSurface final : public PrintSurface {
  public:
-  explicit RecordingSurface(std::vector<std::string>& calls) : calls_(calls) {}
+  /// In twips.
+  struct Paper {
+    Twips scaleWidth = 10000;
+    Twips scaleHeight = 12000;
+    Twips width = 11000;
+  };
 
-  [[nodiscard]] Twips ScaleWidth() const override { return 10000; }
-  [[nodiscard]] Twips ScaleHeight() const override { return 12000; }
-  [[nodiscard]] Twips Width() const override { return 11000; }
+  RecordingSurface(std::vector<std::string>& calls, Paper paper) : calls_(calls), paper_(paper) {}
+
+  [[nodiscard]] Twips ScaleWidth() const override { return paper_.scaleWidth; }
+  [[nodiscard]] Twips ScaleHeight() const override { return paper_.scaleHeight; }
+  [[nodiscard]] Twips Width() const override { return paper_.width; }
   [[nodiscard]] std::string DeviceName() const override { return "Recorder"; }
 
   int callsUntilFailure = -1;  ///< The printer vanishes after that many calls; -1 for never.
@@ -38,19 +45,24 @@ class RecordingSurface final : public PrintSurface {
   void Keep(std::string call);
 
   std::vector<std::string>& calls_;
+  Paper paper_;
 };
 
 /// Hands out the recorder, or nothing as if the user cancelled.
 class RecordingPrinters final : public Printers {
  public:
-  std::unique_ptr<PrintSurface> ShowPrinterDialog() override;
+  std::unique_ptr<PrintSurface> ShowPrinterDialog(const std::string& dialogTitle = {}) override;
 
   bool cancels = false;
+  bool fails = false;   ///< The printer cannot even be started.
+  bool opaque = false;  ///< The printer comes with texts on a ground of their own.
   int callsUntilFailure = -1;
+  RecordingSurface::Paper paper;
   int shown = 0;
+  std::string title;  ///< Of the dialog that was shown last.
   std::vector<std::string> calls;
 
-  /// The texts alone.
+  /// The texts alone, without the blank lines.
   [[nodiscard]] std::vector<std::string> Texts() const;
 };
 

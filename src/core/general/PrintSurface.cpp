@@ -47,7 +47,7 @@ void PrintSurface::Print(std::string_view text, After after) {
   // Every line of a text stands under the first, so that it keeps its place on the page.
   const Twips left = CurrentX;
   ForEachLine(text, [&](std::string_view line, bool last) {
-    if (!line.empty()) DrawText(line);
+    DrawText(line);
     if (last && after != After::NextLine) {
       CurrentX = ToTwips(left + LineWidth(line));
     } else {

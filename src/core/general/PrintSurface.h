@@ -77,7 +77,7 @@ class PrintSurface {
   [[nodiscard]] virtual double LineWidth(std::string_view line) const = 0;
   /// From one line of text to the next, in `Font`.
   [[nodiscard]] virtual double LineHeight() const = 0;
-  /// Draws a text of one line with its upper left corner at the pen.
+  /// Draws a text of one line, which may be empty, with its upper left corner at the pen.
   virtual void DrawText(std::string_view line) = 0;
   virtual void DrawLine(Twips x1, Twips y1, Twips x2, Twips y2) = 0;
   virtual void DrawBox(Twips x1, Twips y1, Twips x2, Twips y2) = 0;

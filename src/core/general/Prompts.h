@@ -50,8 +50,9 @@ class Printers {
  public:
   virtual ~Printers() = default;
   /// Lets the user choose a printer; nothing if the user cancelled. The choices of printing to a
-  /// file, of a selection and of page numbers are not offered.
-  virtual std::unique_ptr<PrintSurface> ShowPrinterDialog() = 0;
+  /// file, of a selection and of page numbers are not offered. Without a title the dialog bears the
+  /// system's.
+  virtual std::unique_ptr<PrintSurface> ShowPrinterDialog(const std::string& title) = 0;
 };
 
 /// The progress dialog of a long walk. It stays until it is closed, also when the walk fails.

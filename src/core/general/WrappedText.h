@@ -15,7 +15,8 @@ namespace parlate {
 /// Two properties of the rule are meant, so that printed pages match those of old: after a break
 /// at a blank the characters read beyond it are no longer measured, so the next line can be too
 /// long by up to a word; and after a break inside a word the character at the break begins the
-/// next part once more. No line comes nearer to the right edge of the paper than 2000 twips.
+/// next part once more. What is measured ends 2000 twips before the width of the whole paper,
+/// counted from the left edge of what can be printed on.
 class WrappedText {
  public:
   /// The first line begins at `firstX`, the others at `nextX`.

@@ -54,7 +54,7 @@ void RunOnPrinter(const PrintingDoors& doors, const std::string& title, const st
                   const std::function<void(PrintSurface&)>& print) {
   std::string deviceName;
   try {
-    const std::unique_ptr<PrintSurface> surface = doors.printers.ShowPrinterDialog();
+    const std::unique_ptr<PrintSurface> surface = doors.printers.ShowPrinterDialog({});
     if (!surface) return;
     print(*surface);
     surface->EndDoc();

@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "general/CodePage.h"
 #include "general/Paths.h"
 #include "general/PrintSurface.h"
 #include "interchange/ExportConversation.h"
@@ -22,7 +23,8 @@ void Shell::PrintConversations(Boolean bPrintAll, Boolean bSkipOptions) {
   }
   if (!choice.bPrintAll && !selectedCon_) return;
   try {
-    if (const auto surface = doors_.printers->ShowPrinterDialog()) PrintOn(*surface, choice);
+    const auto surface = doors_.printers->ShowPrinterDialog("Print Conversations");
+    if (surface) PrintOn(*surface, choice);
   } catch (const RuntimeError& error) {
     // A printer that fails takes nothing from the file: there is nothing to rescue.
     if (error.Number() != RuntimeError::kPrinterError) throw;
@@ -49,7 +51,7 @@ void Shell::PrintOn(PrintSurface& surface, const PrintChoice& choice) {
 }
 
 void Shell::PrintListing(PrintPages& pages) const {
-  ConversationListing listing(pages, GetFileOnly(conFileName));
+  ConversationListing listing(pages, FromUtf8(GetFileOnly(conFileName)));
   listing.Begin();
   for (const auto& actor : tree_.Root().children) {
     listing.PrintListingSection(actor->text);

@@ -1,6 +1,7 @@
 #include "editors/ColumnShares.h"
 
 #include <QEvent>
+#include <algorithm>
 #include <numeric>
 #include <utility>
 
@@ -13,7 +14,7 @@ ColumnShares::ColumnShares(MultiColumnList& list, std::vector<int> shares)
 
 bool ColumnShares::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::Resize) return QObject::eventFilter(watched, event);
-  const int sum = std::accumulate(shares_.begin(), shares_.end(), 0);
+  const int sum = std::max(1, std::accumulate(shares_.begin(), shares_.end(), 0));
   const int width = list_.viewport()->width();
   for (std::size_t i = 0; i < shares_.size(); ++i) {
     list_.SetColumnWidth(static_cast<int>(i), width * shares_[i] / sum);

@@ -32,7 +32,7 @@ int frmConvList::ShowProperties(Conversation& con, int tabIndex) {
 void frmConvList::ShowFileProperties() {
   frmFileProperties dialog(*shell_.GetConFile(), this, [this](const SpeakerStats& stats) {
     if (printers_ == nullptr) return;
-    PrintStats(stats, GetFileOnly(shell_.conFileName), {*printers_, messages_});
+    PrintStats(stats, FromUtf8(GetFileOnly(shell_.conFileName)), {*printers_, messages_});
   });
   dialog.exec();
 }

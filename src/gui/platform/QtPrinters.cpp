@@ -20,8 +20,10 @@ namespace {
 
 std::unique_ptr<PrintSurface> SurfaceOn(QPrinter& printer) {
   if (printer.outputFormat() == QPrinter::PdfFormat) {
-    const std::string path = QFile::encodeName(printer.outputFileName()).toStdString();
-    return MakePdfSurface(std::make_shared<FileSink>(path, FileSink::Content::Replace), path);
+    const QString path = printer.outputFileName();
+    return MakePdfSurface(std::make_shared<FileSink>(QFile::encodeName(path).toStdString(),
+                                                     FileSink::Content::Replace),
+                          FromQString(path));
   }
   PreparePages(printer);
   printer.setCopyCount(1);
@@ -34,11 +36,11 @@ QtPrinters::QtPrinters() = default;
 
 QtPrinters::~QtPrinters() = default;
 
-std::unique_ptr<PrintSurface> QtPrinters::ShowPrinterDialog() {
+std::unique_ptr<PrintSurface> QtPrinters::ShowPrinterDialog(const std::string& title) {
   if (!printer_) printer_ = std::make_unique<QPrinter>();
   QPrintDialog dialog(printer_.get(), QApplication::activeWindow());
   dialog.setObjectName(QStringLiteral("dlgPrint"));
-  dialog.setWindowTitle(QStringLiteral("Print Conversations"));
+  if (!title.empty()) dialog.setWindowTitle(ToQString(title));
   dialog.setOption(QAbstractPrintDialog::PrintSelection, false);
   dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
   dialog.setOption(QAbstractPrintDialog::PrintCurrentPage, false);

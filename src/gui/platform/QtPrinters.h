@@ -15,7 +15,7 @@ class QtPrinters final : public Printers {
  public:
   QtPrinters();
   ~QtPrinters() override;
-  std::unique_ptr<PrintSurface> ShowPrinterDialog() override;
+  std::unique_ptr<PrintSurface> ShowPrinterDialog(const std::string& title) override;
 
  private:
   std::unique_ptr<QPrinter> printer_;  ///< Keeps what was chosen for the next time.

@@ -41,7 +41,6 @@ QtPrintSurface::QtPrintSurface(QPagedPaintDevice& device, std::string deviceName
     throw RuntimeError(RuntimeError::kPrinterError, "the printer cannot be started");
   }
   painter_.setPen(QPen(Qt::black, kRuleWidth));
-  OnSetBkMode(kTransparent);
 }
 
 QtPrintSurface::~QtPrintSurface() {
@@ -92,10 +91,13 @@ double QtPrintSurface::LineWidth(std::string_view line) const {
 }
 
 void QtPrintSurface::DrawText(std::string_view line) {
+  if (line.empty()) return;
   const MeasuredFont& font = Measured();
   // A painter looks a font up anew whenever it is set.
   if (paintedFont_ != lastFont_) painter_.setFont(font.font);
   paintedFont_ = lastFont_;
+  painter_.setBackgroundMode(FontTransparent || groundMode_ == kTransparent ? Qt::TransparentMode
+                                                                            : Qt::OpaqueMode);
   painter_.drawText(QPointF(CurrentX, CurrentY + font.ascent), DrawnText(line));
 }
 
@@ -120,10 +122,6 @@ void QtPrintSurface::OnEndDoc() {
   if (!painter_.end()) {
     throw RuntimeError(RuntimeError::kPrinterError, "the printer did not end the document");
   }
-}
-
-void QtPrintSurface::OnSetBkMode(int mode) {
-  painter_.setBackgroundMode(mode == kTransparent ? Qt::TransparentMode : Qt::OpaqueMode);
 }
 
 }  // namespace parlate

@@ -44,7 +44,7 @@ class QtPrintSurface : public PrintSurface {
   void DrawText(std::string_view line) override;
   void DrawLine(Twips x1, Twips y1, Twips x2, Twips y2) override;
   void DrawBox(Twips x1, Twips y1, Twips x2, Twips y2) override;
-  void OnSetBkMode(int mode) override;
+  void OnSetBkMode(int mode) override { groundMode_ = mode; }
 
   [[nodiscard]] const MeasuredFont& Measured() const;
   static MeasuredFont Measure(const PrintFont& font);
@@ -55,6 +55,7 @@ class QtPrintSurface : public PrintSurface {
   mutable std::vector<MeasuredFont> fonts_;  ///< A run uses a handful.
   mutable std::size_t lastFont_ = 0;
   std::optional<std::size_t> paintedFont_;
+  int groundMode_ = kTransparent;
 };
 
 /// Gives a device one twip a unit and the narrowest margins that it can print to, but no narrower

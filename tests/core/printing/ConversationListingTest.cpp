@@ -31,9 +31,9 @@ TEST_F(Listing, NamesTheFileTheOwnersAndTheirConversations) {
               ElementsAre("500,600 Arial 14: Conversation Listing", "500,880 Arial 14: harbour.con",
                           "line 500,1260 9500,1260",
                           // the header ends at 1360; a blank line of size 10 before the bar
-                          "box 450,1540 9500,1820 solid CCCCCC", "background 1",
-                          "500,1560 Arial 12 bold: Zoe", "750,1850 Courier New 10: Arrival",
-                          "750,2050 Courier New 10: greeting"));
+                          "0,1360 Default 10: ", "box 450,1540 9500,1820 solid CCCCCC",
+                          "background 1", "500,1560 Arial 12 bold: Zoe",
+                          "750,1850 Courier New 10: Arrival", "750,2050 Courier New 10: greeting"));
 }
 
 TEST_F(Listing, GoesOnOverTwoPagesWithoutFootersAndWithoutCounting) {

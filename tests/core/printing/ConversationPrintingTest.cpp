@@ -1,13 +1,11 @@
-// Whole pages, held against places worked out by hand: see RecordingSurface for the metrics. The
-// left edge of the text is 500, its top 600 and its bottom 11400.
+// Pages of a conversation, held against places worked out by hand: see RecordingSurface for the
+// metrics. The left edge of the text is 500, its top 600 and its bottom 11400.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "model/printing/PrintPages.h"
-#include "support/ConversationScript.h"
-#include "support/RecordingSurface.h"
-#include "support/TestWorkspace.h"
+#include "PrintedConversation.h"
+#include "general/RuntimeError.h"
 
 namespace parlate {
 namespace {
@@ -17,66 +15,6 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Not;
 using namespace testing_support;
-
-class PrintedConversation : public testing::Test {
- protected:
-  PrintedConversation() {
-    space_.AddRows(kActorTable, {{0, "Alex"}, {1, "Zoe"}});
-    space_.AddRows(kSkillTable, {{1, "Swim"}});
-    space_.AddRows(kFlagTable, {{2, "Door"}, {3, "Lamp"}});
-    space_.AddRows(kObjectTable, {{4, "Key"}});
-    con_.conName = "greeting";
-    con_.NPCID = 1;
-    surface_->CurrentY = 600;
-  }
-
-  ConversationDefaults& Settings() { return space_.workspace.defaults; }
-
-  template <class Event>
-  Event& Add(std::int32_t type, Event event, const std::string& label = "") {
-    auto item = std::make_shared<EventItem>();
-    item->key = con_.NextEventKey();
-    item->eventLabel = label;
-    Event& added = item->SetEventObject(type, std::move(event));
-    con_.events.Add(item->key, item);
-    return added;
-  }
-  EventSpeech& AddSpeech(std::int32_t speaker, const std::string& text,
-                         const std::string& label = "") {
-    EventSpeech speech;
-    speech.ActorSpeakerID = speaker;
-    speech.speech = text;
-    return Add(kSpeech, speech, label);
-  }
-  EventComment& AddComment(const std::string& text) {
-    EventComment comment;
-    comment.commentText = text;
-    return Add(kComment, comment);
-  }
-  static void AddFlag(FlagList& flags, std::int32_t id, bool value) {
-    auto flag = std::make_shared<FlagRef>();
-    flag->flagID = id;
-    flag->bValue = value;
-    flags.Add(id, flag);
-  }
-
-  const std::vector<std::string>& Print(bool detailed = false) {
-    result_ = con_.PrintConversation(pages_, detailed);
-    return printers_.calls;
-  }
-  /// What stands below the title, which is printed first and takes two calls.
-  std::vector<std::string> PrintBelowTitle() {
-    const auto& calls = Print();
-    return {calls.begin() + 2, calls.end()};
-  }
-
-  TestWorkspace space_;
-  RecordingPrinters printers_;
-  std::unique_ptr<PrintSurface> surface_ = printers_.ShowPrinterDialog();
-  PrintPages pages_{*surface_};
-  Conversation con_;
-  bool result_ = false;
-};
 
 TEST_F(PrintedConversation, WithNoEventsPrintsNoTitle) {
   EXPECT_THAT(Print(), IsEmpty());
@@ -97,12 +35,15 @@ TEST_F(PrintedConversation, StandsUnderItsTitleWithFlagsLabelsAndEvents) {
           "500,1080 Arial 12: Conversation Flags", "1000,1370 Arial 12: Door = True",
           "1000,1610 Arial 12: Lamp = False", "line 500,2000 9500,2000",
           // a blank line of size 10, and the bar below it
-          "box 450,2280 9500,2560 solid CCCCCC", "background 1", "500,2300 Arial 12 bold: Start",
+          "500,2100 Arial 10: ", "box 450,2280 9500,2560 solid CCCCCC", "background 1",
+          "500,2300 Arial 12 bold: Start",
           // meant: the heading keeps the size of the bar
-          "750,2590 Arial 12: Zoe", "1000,2830 Courier New 10: Hello", "750,3230 Arial 10: Comment",
-          "1000,3430 Courier New 10: A comment", "750,3830 Arial 10: Alex",
-          "1000,4030 Courier New 10: Hi", "box 450,4610 9500,4890 solid CCCCCC", "background 1",
-          "500,4630 Arial 12 bold: Stop", "750,4920 Arial 12: End"));
+          "750,2590 Arial 12: Zoe", "1000,2830 Courier New 10: Hello", "0,3030 Courier New 10: ",
+          "750,3230 Arial 10: Comment", "1000,3430 Courier New 10: A comment",
+          "0,3630 Courier New 10: ", "750,3830 Arial 10: Alex", "1000,4030 Courier New 10: Hi",
+          "0,4230 Courier New 10: ", "500,4430 Arial 10: ", "box 450,4610 9500,4890 solid CCCCCC",
+          "background 1", "500,4630 Arial 12 bold: Stop", "750,4920 Arial 12: End",
+          "0,5160 Courier New 10: "));
   EXPECT_TRUE(result_);
   EXPECT_EQ(surface_->CurrentY, 5360) << "the heading of End, and a blank line of the body's font";
   EXPECT_EQ(surface_->FillStyle, PrintSurface::kTransparent);
@@ -120,7 +61,8 @@ TEST_F(PrintedConversation, LeavesTheFlagsBlockOutWhenItHasNone) {
   AddSpeech(1, "Hello");
   EXPECT_THAT(Print(true),
               ElementsAre("500,600 Arial 14: Conversation: Zoe - greeting", "line 500,980 9500,980",
-                          "750,1080 Arial 10: Zoe", "1000,1280 Courier New 10: Hello"));
+                          "750,1080 Arial 10: Zoe", "1000,1280 Courier New 10: Hello",
+                          "0,1480 Courier New 10: "));
 }
 
 TEST_F(PrintedConversation, HasNoBlankLinesBetweenEventsWithoutTheSetting) {
@@ -136,9 +78,10 @@ TEST_F(PrintedConversation, TakesItsSizesFromTheSetting) {
   Settings().PrintFontSize = 12;
   AddSpeech(1, "Hello", "Start");
   EXPECT_THAT(Print(), ElementsAre("500,600 Arial 16: Conversation: Zoe - greeting",
-                                   "line 500,1020 9500,1020", "box 450,1300 9500,1620 solid CCCCCC",
-                                   "background 1", "500,1320 Arial 14 bold: Start",
-                                   "750,1650 Arial 14: Zoe", "1000,1930 Courier New 12: Hello"));
+                                   "line 500,1020 9500,1020", "500,1120 Arial 10: ",
+                                   "box 450,1300 9500,1620 solid CCCCCC", "background 1",
+                                   "500,1320 Arial 14 bold: Start", "750,1650 Arial 14: Zoe",
+                                   "1000,1930 Courier New 12: Hello", "0,2170 Courier New 12: "));
 }
 
 TEST_F(PrintedConversation, OfSpeechAloneHasNoOtherEventsNoLabelBarsAndNoTargetsOfChoices) {
@@ -155,147 +98,10 @@ TEST_F(PrintedConversation, OfSpeechAloneHasNoOtherEventsNoLabelBarsAndNoTargets
   AddComment("A comment");
   EXPECT_THAT(PrintBelowTitle(),
               ElementsAre("750,1080 Arial 10: Zoe", "1000,1280 Courier New 10: Hello",
-                          "750,1680 Arial 10: Choice", "1000,1880 Courier New 10: \x95 Yes",
-                          "750,2280 Arial 10: Comment", "1000,2480 Courier New 10: A comment"));
-}
-
-TEST_F(PrintedConversation, NamesTheAudioFilesOfSpeechAndChoices) {
-  Settings().bPrintAudioNames = true;
-  AddSpeech(1, "Hello").audioFile = "a.mp3";
-  EventChoice choices;
-  auto choice = std::make_shared<ChoiceItem>();
-  choice->text = "Yes";
-  choice->audioFile = "b.mp3";
-  choice->skillID = -1;
-  choices.Choices.Add(0, choice);
-  Add(kChoice, choices);
-  EXPECT_THAT(PrintBelowTitle(),
-              ElementsAre("750,1080 Arial 10: Zoe", "1000,1280 Courier New 10: Hello",
-                          // a blank line, the name, and the blank line behind the event
-                          "1300,1680 Courier New 10: [Audio Filename = a.mp3]",
-                          "750,2080 Arial 10: Choice", "1000,2280 Courier New 10: \x95 Yes",
-                          "1300,2680 Courier New 10: [Audio Filename = b.mp3]"));
-  EXPECT_EQ(surface_->CurrentY, 3280) << "a blank line after the name and one after the event";
-}
-
-TEST_F(PrintedConversation, ShowsWhereAChoiceLeadsAndWhatItTakesInItalics) {
-  EventChoice choices;
-  auto choice = std::make_shared<ChoiceItem>();
-  choice->text = "Yes";
-  choice->label = "Start";
-  choice->skillID = 1;
-  choice->skillLevel = 2;
-  AddFlag(choice->flagRefs, 2, true);
-  AddFlag(choice->flagRefs, 3, false);
-  choices.Choices.Add(0, choice);
-  const EventChoice& added = Add(kChoice, choices);
-  EXPECT_THAT(PrintBelowTitle(),
-              ElementsAre("750,1080 Arial 10: Choice", "1000,1280 Courier New 10: \x95 Yes",
-                          "1300,1480 Courier New 10 italic: Jump To: Start",
-                          "1300,1680 Courier New 10 italic: Requires Skill Swim",
-                          "1300,1880 Courier New 10 italic: Flags: Door = True, Lamp = False"));
-  EXPECT_EQ(added.GetEventPrintHeight(*surface_), 900) << "four lines and a gap of 100";
-}
-
-TEST_F(PrintedConversation, TheGapOfAChoiceIsInItsHeightOnly) {
-  EventChoice choices;
-  for (int i = 0; i < 2; ++i) {
-    auto choice = std::make_shared<ChoiceItem>();
-    choice->text = "Yes";
-    choice->skillID = -1;
-    choices.Choices.Add(i, choice);
-  }
-  const EventChoice& added = Add(kChoice, choices);
-  EXPECT_EQ(added.GetEventPrintHeight(*surface_), 600);
-  EXPECT_THAT(PrintBelowTitle(),
-              ElementsAre("750,1080 Arial 10: Choice", "1000,1280 Courier New 10: \x95 Yes",
-                          "1000,1480 Courier New 10: \x95 Yes"));
-}
-
-TEST_F(PrintedConversation, OtherHeadingsNameTheTypeAndTheActorInTheNextZone) {
-  EventTrade trade;
-  trade.PawnID = 0;
-  Add(kTrade, trade);
-  EventTransferObject transfer;
-  transfer.objectID = 4;
-  transfer.fromPawnID = 0;
-  transfer.toPawnID = 1;
-  transfer.transferCount = 1;
-  Add(kTransferObject, transfer);
-  const auto calls = PrintBelowTitle();
-  ASSERT_GE(calls.size(), 4U);
-  EXPECT_EQ(calls[0], "750,1080 Arial 10: Buy/Sell/Trade");
-  EXPECT_EQ(calls[1], "2800,1080 Arial 10: Alex") << "14 characters from 750 end beyond zone 1";
-  EXPECT_EQ(calls[2], "1000,1280 Courier New 10: Trade");
-  EXPECT_EQ(calls[3], "750,1680 Arial 10: Transfer Object") << "the body names both actors";
-}
-
-TEST_F(PrintedConversation, PrintsFlagEventsFlagByFlagAndNoTarget) {
-  EventSetFlag set;
-  AddFlag(set.flagRefs, 2, true);
-  Add(kSetFlags, set);
-  EventCheckFlag check;
-  AddFlag(check.flagRefs, 2, false);
-  AddFlag(check.flagRefs, 3, true);
-  check.failLabel = "Away";
-  const EventCheckFlag& added = Add(kCheckFlags, check);
-  EXPECT_THAT(
-      PrintBelowTitle(),
-      ElementsAre("750,1080 Arial 10: Set Flags", "1000,1280 Courier New 10: Door = True",
-                  "750,1680 Arial 10: Check Flags", "1000,1880 Courier New 10: Door = False",
-                  "1000,2080 Courier New 10: Lamp = True"));
-  EXPECT_EQ(added.GetEventPrintHeight(*surface_), 400);
-}
-
-TEST_F(PrintedConversation, TheFirstTargetOfARandomJumpSharesTheLineOfItsCaption) {
-  EventRandom random;
-  random.ResizeLabels(1);
-  random.AssignLabel(0, "One");
-  random.AssignLabel(1, "Two");
-  const EventRandom& added = Add(kRandomLabel, random);
-  EXPECT_THAT(
-      PrintBelowTitle(),
-      ElementsAre("750,1080 Arial 10: Random Label", "1000,1280 Courier New 10: Random Targets:",
-                  "1250,1280 Courier New 10: One", "1250,1480 Courier New 10: Two"));
-  EXPECT_EQ(added.GetEventPrintHeight(*surface_), 600);
-}
-
-TEST_F(PrintedConversation, SaysPrimaryOfEveryGoalThatIsNotCompleted) {
-  EventAddGoal open;
-  open.goalName = "Find";
-  open.goalText = "Find the key";
-  Add(kAddGoal, open);
-  EventAddGoal done;
-  done.goalName = "Find";
-  done.bGoalCompleted = true;
-  Add(kAddGoal, done);
-  EXPECT_THAT(PrintBelowTitle(), ElementsAre("750,1080 Arial 10: Add/Complete Goal",
-                                             "1000,1280 Courier New 10: Goal Name: Find",
-                                             "1000,1480 Courier New 10: Goal Text: Find the key",
-                                             "1000,1680 Courier New 10: (Primary Goal)",
-                                             "750,2080 Arial 10: Add/Complete Goal",
-                                             "1000,2280 Courier New 10: Goal Name: Find",
-                                             "1000,2480 Courier New 10: Completed"));
-}
-
-TEST_F(PrintedConversation, PrintsTheRowOfMostEventsOnOneLine) {
-  EventAddCredits credits;
-  credits.creditsToAdd = 5;
-  Add(kAddCredits, credits);
-  EventTrigger trigger;
-  trigger.triggerTag = std::string(100, 'x');
-  const EventTrigger& added = Add(kTrigger, trigger);
-  EXPECT_THAT(PrintBelowTitle(),
-              ElementsAre("750,1080 Arial 10: Add Credits",
-                          "1000,1280 Courier New 10: Add 5 Credits", "750,1680 Arial 10: Trigger",
-                          "1000,1880 Courier New 10: Trigger " + std::string(100, 'x')));
-  EXPECT_EQ(added.GetEventPrintHeight(*surface_), 400) << "measured as if it were wrapped";
-}
-
-TEST_F(PrintedConversation, CheckPersonaIsAHeadingWithoutABody) {
-  Add(kCheckPersona, EventCheckPersona());
-  EXPECT_THAT(PrintBelowTitle(), ElementsAre("750,1080 Arial 10: Check Persona"));
-  EXPECT_EQ(EventCheckPersona().GetEventPrintHeight(*surface_), 0);
+                          "0,1480 Courier New 10: ", "750,1680 Arial 10: Choice",
+                          "1000,1880 Courier New 10: \x95 Yes",
+                          "0,2080 Courier New 10: ", "750,2280 Arial 10: Comment",
+                          "1000,2480 Courier New 10: A comment", "0,2680 Courier New 10: "));
 }
 
 TEST_F(PrintedConversation, GoesOnOverleafWithAContinuedTitleAndAFooter) {
@@ -311,7 +117,8 @@ TEST_F(PrintedConversation, GoesOnOverleafWithAContinuedTitleAndAFooter) {
                   "500,600 Arial 14: Conversation: Zoe - greeting (continued)",
                   "line 500,980 9500,980",  // meant: the headings keep the size of the footer
                   "750,1080 Arial 12: Zoe", "1000,1320 Courier New 10: Hello",
-                  "750,1720 Arial 12: Alex", "1000,1960 Courier New 10: Hi"));
+                  "0,1520 Courier New 10: ", "750,1720 Arial 12: Alex",
+                  "1000,1960 Courier New 10: Hi", "0,2160 Courier New 10: "));
   EXPECT_EQ(pages_.PrintPageNumber, 2);
 }
 
@@ -321,7 +128,7 @@ TEST_F(PrintedConversation, ATitleThatDoesNotFitBeginsANewPage) {
   AddSpeech(1, "Hello");
   EXPECT_THAT(Print(), ElementsAre("new page", "500,600 Arial 14: Conversation: Zoe - greeting",
                                    "line 500,980 9500,980", "750,1080 Arial 10: Zoe",
-                                   "1000,1280 Courier New 10: Hello"));
+                                   "1000,1280 Courier New 10: Hello", "0,1480 Courier New 10: "));
 }
 
 TEST_F(PrintedConversation, AnEventTallerThanAPageRunsOverItsEndOnTheSecondTry) {
@@ -341,13 +148,14 @@ TEST_F(PrintedConversation, AFrameWhoseSpeechDoesNotFitStandsAtTheFootAndAllIsPr
   surface_->CurrentY = 600;
   AddSpeech(1, std::string(85, 'x'));
   surface_->CurrentY = 10420;  // the title ends at 10900, and 500 more are 11400
-  EXPECT_THAT(Print(),
-              ElementsAre("500,10420 Arial 14: Conversation: Zoe - greeting",
-                          "line 500,10800 9500,10800", "750,10900 Arial 10: Zoe", "new page",
-                          "500,600 Arial 14: Conversation: Zoe - greeting (continued)",
-                          "line 500,980 9500,980", "750,1080 Arial 10: Zoe",
-                          "1000,1280 Courier New 10: " + std::string(81, 'x'),
-                          "1000,1480 Courier New 10: " + std::string(5, 'x')));
+  EXPECT_THAT(
+      Print(),
+      ElementsAre("500,10420 Arial 14: Conversation: Zoe - greeting", "line 500,10800 9500,10800",
+                  "750,10900 Arial 10: Zoe", "0,11100 Courier New 10: ", "new page",
+                  "500,600 Arial 14: Conversation: Zoe - greeting (continued)",
+                  "line 500,980 9500,980", "750,1080 Arial 10: Zoe",
+                  "1000,1280 Courier New 10: " + std::string(81, 'x'),
+                  "1000,1480 Courier New 10: " + std::string(5, 'x'), "0,1680 Courier New 10: "));
 }
 
 TEST_F(PrintedConversation, ThePageBreakOptionEndsThePageOnlyIfSomethingStandsOnIt) {
@@ -363,6 +171,110 @@ TEST_F(PrintedConversation, AnOwnerWithoutARowIsARunTimeError) {
   con_.NPCID = 9;
   AddSpeech(1, "Hello");
   EXPECT_THROW(Print(), RuntimeError);
+}
+
+TEST_F(PrintedConversation, AnEventOfMoreThanThePaperMeasuresIsPrintedWholeAllTheSame) {
+  // Places stop at 32767 twips; an event that is higher than that must not be lost.
+  Settings().bPrintFooters = false;
+  std::string high = "First";
+  for (int line = 0; line < 200; ++line) high += " " + std::string(70, 'x');
+  high += " Last";
+  const auto expectWhole = [this] {
+    printers_.calls.clear();
+    surface_->CurrentY = 600;
+    Print();
+    EXPECT_THAT(printers_.calls, Contains(testing::HasSubstr("First")));
+    EXPECT_THAT(printers_.calls, Contains(testing::HasSubstr("Last")));
+    con_.events.Clear();
+  };
+  AddSpeech(1, high);
+  expectWhole();
+  AddComment(high);
+  expectWhole();
+  EventChoice choices;
+  auto choice = std::make_shared<ChoiceItem>();
+  choice->text = high;
+  choice->skillID = -1;
+  choices.Choices.Add(0, choice);
+  Add(kChoice, choices);
+  expectWhole();
+}
+
+TEST_F(PrintedConversation, AfterAnEventThatRanOverThePageTheNextBeginsOverleaf) {
+  Settings().bPrintFooters = false;
+  AddComment(std::string(81 * 70, 'x'));
+  AddSpeech(1, "Hello");
+  const auto& calls = Print();
+  const std::vector<std::string> end(calls.end() - 6, calls.end());
+  EXPECT_THAT(end,
+              ElementsAre("new page", "500,600 Arial 14: Conversation: Zoe - greeting (continued)",
+                          "line 500,980 9500,980", "750,1080 Arial 10: Zoe",
+                          "1000,1280 Courier New 10: Hello", "0,1480 Courier New 10: "));
+}
+
+TEST_F(PrintedConversation, FlagsThatPassTheBottomTurnThePageThoughNoEventIsPrinted) {
+  Settings().bPrintSpeechOnly = true;
+  for (int i = 10; i < 60; ++i) {
+    space_.AddRows(kFlagTable, {{i, "Flag" + std::to_string(i)}});
+    AddFlag(con_.flagRefs, i, true);
+  }
+  Add(kTrigger, EventTrigger());
+  const auto& calls = Print(true);
+  const std::vector<std::string> end(calls.end() - 5, calls.end());
+  EXPECT_THAT(end,
+              ElementsAre("line 500,11700 9500,11700", "5140,11730 Arial 12: Page 1", "new page",
+                          "500,600 Arial 14: Conversation: Zoe - greeting (continued)",
+                          "line 500,980 9500,980"));
+}
+
+TEST_F(PrintedConversation, AnEventThatEndsAtTheBottomIsOnThePageAndOneTwipMoreIsNot) {
+  // Measured: a label of 200, an actor of 200, 100 and a line of 200. The title takes 480.
+  Settings().bPrintFooters = false;
+  for (const bool speechOnly : {false, true}) {
+    // The label counts for the height though no bar is drawn for speech alone.
+    Settings().bPrintSpeechOnly = speechOnly;
+    for (const int tooFar : {0, 1}) {
+      printers_.calls.clear();
+      con_.events.Clear();
+      AddSpeech(1, "Hello", "Start");
+      surface_->CurrentY = ToTwips(11400 - 700 - 480 + tooFar);
+      Print();
+      EXPECT_EQ(printers_.calls.at(2) == "new page", tooFar == 1) << speechOnly << tooFar;
+    }
+  }
+}
+
+TEST_F(PrintedConversation, PlacesOnAPageOfOddMeasuresAreRoundedHalfToEven) {
+  // Left 500.55, top 601, half of it 300.5, the middle of the foot 5500.5 - 360.
+  printers_.paper = {.scaleWidth = 10011, .scaleHeight = 12020, .width = 11001};
+  surface_ = printers_.ShowPrinterDialog();
+  PrintPages pages(*surface_);
+  EXPECT_EQ(pages.Left(), 501);
+  EXPECT_EQ(pages.Top(), 601);
+  EXPECT_EQ(pages.Bottom(), 11419);
+  surface_->CurrentY = 11000;
+  AddSpeech(1, "Hello");
+  con_.PrintConversation(pages, false);
+  EXPECT_THAT(printers_.calls,
+              ElementsAre("line 501,11720 9510,11720", "5140,11750 Arial 12: Page 1", "new page",
+                          "501,601 Arial 14: Conversation: Zoe - greeting", "line 501,981 9510,981",
+                          "751,1081 Arial 12: Zoe", "1001,1321 Courier New 10: Hello",
+                          "0,1521 Courier New 10: "));
+}
+
+TEST_F(PrintedConversation, OfThe32767EventsThatACountCanTellIsPrintedToItsLast) {
+  Settings().bPrintBlankLines = false;
+  for (int i = 0; i < 32767; ++i) AddSpeech(i % 2, "Line" + std::to_string(i));
+  Print();
+  int lines = 0;
+  int pages = 1;
+  for (const std::string& call : printers_.calls) {
+    if (call.ends_with(": Line" + std::to_string(lines))) ++lines;
+    if (call == "new page") ++pages;
+  }
+  EXPECT_EQ(lines, 32767) << "each in its order";
+  EXPECT_EQ(pages, pages_.PrintPageNumber);
+  EXPECT_GT(pages, 1000);
 }
 
 }  // namespace

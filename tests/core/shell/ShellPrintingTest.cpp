@@ -44,6 +44,9 @@ TEST_F(ShellPrinting, OfAllTakesTheConversationsInTheOrderOfTheFile) {
   EXPECT_EQ(program_.progress.caption, "Printing Conversations...");
   EXPECT_EQ(program_.progress.texts,
             (std::vector<std::string>{"", "greeting", "Arrival", "Leaving"}));
+  EXPECT_EQ(program_.progress.tops.back(), 3);
+  EXPECT_THAT(program_.progress.values, testing::Contains(3));
+  EXPECT_EQ(printers_.title, "Print Conversations");
   EXPECT_FALSE(program_.progress.showing);
   EXPECT_THAT(printers_.calls, Not(Contains(testing::HasSubstr("Page "))))
       << "the last page keeps no footer";
@@ -69,12 +72,14 @@ TEST_F(ShellPrinting, OfTheSelectedConversationShowsNoProgress) {
 }
 
 TEST_F(ShellPrinting, FromThePopupAsksNothingButThePrinter) {
+  Defaults().bPrintDetailedHeader = false;
   Click("C0");
   Window().PrintConversations(false, true);
   EXPECT_THAT(program_.view.printOptionsShown, IsEmpty());
   EXPECT_EQ(printers_.shown, 1);
   EXPECT_THAT(Titles(), ElementsAre("Conversation: Zoe - greeting"));
-  EXPECT_THAT(printers_.Texts(), Contains("Conversation Flags")) << "the header is detailed";
+  EXPECT_THAT(printers_.Texts(), Contains("Conversation Flags"))
+      << "the header is detailed, whatever the setting";
 }
 
 TEST_F(ShellPrinting, WithoutTheDetailedHeaderLeavesTheFlagsOut) {
@@ -127,6 +132,41 @@ TEST_F(ShellPrinting, OnAPrinterThatVanishesIsToldAndTheFileStaysOpen) {
                                MessageBox::Icon::Critical, MessageBox::Buttons::Ok));
   EXPECT_FALSE(program_.progress.showing);
   EXPECT_NE(Window().GetConFile(), nullptr);
+}
+
+TEST_F(ShellPrinting, OnAPrinterThatCannotBeStartedIsTold) {
+  printers_.fails = true;
+  program_.messages.Expect(Answer::Ok);
+  Window().PrintConversations(true, false);
+  EXPECT_THAT(LastBox(), IsBox("Error Printing!", "An Error Occurred While Printing.",
+                               MessageBox::Icon::Critical, MessageBox::Buttons::Ok));
+  EXPECT_THAT(printers_.calls, IsEmpty());
+}
+
+TEST_F(ShellPrinting, TheBreakAfterEachConversationAddsNoEmptyPageForOneWithoutEvents) {
+  Defaults().bConPageBreaks = true;
+  Defaults().bPrintFooters = false;
+  Window().PrintConversations(true, false);
+  // greeting has events, Arrival none, Leaving some.
+  EXPECT_EQ(std::count(printers_.calls.begin(), printers_.calls.end(), "new page"), 2);
+  EXPECT_EQ(printers_.calls.at(printers_.calls.size() - 2), "new page");
+}
+
+TEST_F(ShellPrinting, OfTheListingNamesTheFileByTheLettersOfItsName) {
+  Window().CloseConFile();
+  Open(HarbourFile(),
+       "Gr\xC3\xBC\xC3\x9F"
+       "e.con");  // a file name is UTF-8
+  Defaults().bPrintListingOnly = true;
+  Window().PrintConversations(true, false);
+  EXPECT_THAT(printers_.Texts(), Contains("Gr\xFC\xDF"
+                                          "e.con"));
+}
+
+TEST_F(ShellPrinting, LetsTextsStandOnTheGroundThatIsThere) {
+  printers_.opaque = true;
+  Window().PrintConversations(true, false);
+  EXPECT_THAT(printers_.calls, Not(Contains(testing::HasSubstr(" opaque"))));
 }
 
 TEST_F(ShellPrinting, WithNoFileOpenDoesNothing) {

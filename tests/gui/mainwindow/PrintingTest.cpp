@@ -1,17 +1,16 @@
-// The print commands through the real window, on the recorder, and a PDF as the system makes it.
+// The print commands through the real window, on the recorder.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <QProcess>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
 
-#include "general/RuntimeError.h"
 #include "mainwindow/WindowFixture.h"
 #include "platform/Modal.h"
-#include "print/PdfSurface.h"
+#include "platform/QtComboBox.h"
 #include "support/ConversationScript.h"
 
 namespace parlate {
@@ -78,6 +77,39 @@ TEST_F(Printing, CancelledOptionsPrintNothing) {
   EXPECT_EQ(program.printers.shown, 0);
 }
 
+TEST_F(Printing, OptionsAreKeptThoughThePrinterIsCancelled) {
+  program.printers.cancels = true;
+  WhenFormShows("frmPrintCons", [](QWidget& form) {
+    QLineEdit& size = *ControlNamed<QtComboBox>(form, "cboFontSizes").lineEdit();
+    size.selectAll();
+    QTest::keyClicks(&size, "13");
+    Click(form, "chkPrintSpeechOnly");
+    Click(form, "cmdOK");
+  });
+  program.Choose("mnuFilePrint");
+  EXPECT_EQ(program.workspace.defaults.PrintFontSize, 13);
+  EXPECT_TRUE(program.workspace.defaults.bPrintSpeechOnly);
+  EXPECT_THAT(program.printers.calls, IsEmpty());
+}
+
+TEST_F(Printing, TheStatisticsNameTheFileByTheLettersOfItsName) {
+  const std::string path = folder.File(
+      "Gr\xC3\xBC\xC3\x9F"
+      "e.con");
+  WriteBytes(path, HarbourFile());
+  program.shell().OpenConFile(path);
+  program.messages.Expect(Answer::Ok);
+  WhenFormShows("frmFileProperties", [](QWidget& form) {
+    ControlNamed<QTabWidget>(form, "tabProperties").setCurrentIndex(2);
+    Click(form, "cmdPrint");
+    Click(form, "cmdCancel");
+  });
+  program.Choose("mnuFileProperties");
+  EXPECT_EQ(program.printers.Texts().front(),
+            "Parlate Table: CONVERSATION STATS, FILE = GR\xDC\xDF"
+            "E.CON");
+}
+
 TEST_F(Printing, TheTableEditorPrintsItsRows) {
   program.messages.Expect(Answer::Ok);
   WhenFormShows("frmTableEdit", [](QWidget& form) {
@@ -119,82 +151,6 @@ TEST_F(Printing, StatisticsThatWereCountedTwicePrintTheRowsOfBothAndTheSpeakersO
   EXPECT_THAT(program.printers.Texts(),
               ElementsAre("Parlate Table: CONVERSATION STATS, FILE = HARBOUR.CON", "Alex", "2",
                           "Zoe", "2", "Total Unique Speakers:   0", "Total Speech Events:   2"));
-}
-
-/// What a reader finds in a PDF.
-QString TextOf(const std::string& path) {
-  QProcess reader;
-  reader.start("pdftotext", {"-layout", QString::fromStdString(path), "-"});
-  EXPECT_TRUE(reader.waitForFinished());
-  return QString::fromUtf8(reader.readAllStandardOutput());
-}
-
-TEST(Pdf, HoldsEveryLineInItsOrder) {
-  const TemporaryFolder folder;
-  const std::string path = folder.File("page.pdf");
-  const auto surface =
-      MakePdfSurface(std::make_shared<FileSink>(path, FileSink::Content::Replace), "PDF");
-  surface->Font = {.Name = "Courier New", .Size = 10};
-  surface->CurrentX = 600;
-  surface->Print("First \x95 caf\xE9");
-  surface->CurrentX = 600;
-  surface->Print("Second\r\nThird");
-  surface->NewPage();
-  surface->Font = {.Name = "Arial", .Size = 14, .Bold = true};
-  surface->Print("Overleaf");
-  surface->EndDoc();
-  const QString text = TextOf(path);
-  const QStringList lines = {QStringLiteral(u"First \u2022 caf\u00E9"), "Second", "Third",
-                             "Overleaf"};
-  qsizetype at = -1;
-  for (const QString& line : lines) {
-    const qsizetype found = text.indexOf(line);
-    EXPECT_GT(found, at) << line.toStdString() << " in " << text.toStdString();
-    at = found;
-  }
-  EXPECT_EQ(text.count(u'\f'), 2) << "two pages";
-}
-
-TEST(Pdf, MeasuresInTwipsAndKeepsTheMarginsFree) {
-  const auto surface = MakePdfSurface(std::make_shared<MemorySink>(), "PDF");
-  surface->Font = {.Name = "Courier New", .Size = 10};
-  // A character of this font is six tenths of its size wide, at every size.
-  EXPECT_EQ(surface->TextWidth(std::string(10, 'x')), 1200);
-  surface->Font.Size = 20;
-  EXPECT_NEAR(surface->TextWidth(std::string(10, 'x')), 2400, 1);
-  EXPECT_EQ(surface->Width() - surface->ScaleWidth(), 720) << "a quarter of an inch on each side";
-  EXPECT_TRUE(surface->Width() == 11900 || surface->Width() == 12240)
-      << "A4 or Letter, in whole points";
-  surface->EndDoc();
-}
-
-TEST(Pdf, OnAFullDiskIsAPrinterErrorAtTheEndAtTheLatest) {
-  const auto surface =
-      MakePdfSurface(std::make_shared<FileSink>("/dev/full", FileSink::Content::Replace), "PDF");
-  EXPECT_THROW(
-      {
-        for (int page = 0; page < 100; ++page) {
-          surface->Print("Text");
-          surface->NewPage();
-        }
-        surface->EndDoc();
-      },
-      RuntimeError);
-}
-
-TEST(Pdf, TheMemoryOfARunDoesNotGrowWithItsPages) {
-  // The sink holds what was written, so that anything beyond it would be the surface's own.
-  const auto sink = std::make_shared<MemorySink>();
-  const auto surface = MakePdfSurface(sink, "PDF");
-  surface->Print("Text");
-  surface->NewPage();
-  const std::size_t early = sink->Bytes().size();
-  for (int page = 0; page < 200; ++page) {
-    surface->Print("Text");
-    surface->NewPage();
-  }
-  EXPECT_GT(sink->Bytes().size(), early) << "pages are written as they end";
-  surface->EndDoc();
 }
 
 }  // namespace

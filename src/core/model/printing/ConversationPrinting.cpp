@@ -12,8 +12,8 @@ namespace parlate {
 
 namespace {
 
-/// No event can pass it, so it is printed whether it fits or not.
-constexpr Twips kNoBottom = std::numeric_limits<Twips>::max();
+/// Below every place on a page, so that an event is printed whether it fits or not.
+constexpr int kNoBottom = std::numeric_limits<int>::max();
 
 const ConversationDefaults& Defaults() { return Workspace::Current().defaults; }
 
@@ -39,8 +39,8 @@ Boolean Conversation::PrintConversation(PrintPages& pages, Boolean bDetailedHead
   };
   for (const EventItem& event : events) {
     surface.CurrentX = x;
-    if (Defaults().bPrintSpeechOnly && !IsSpokenOrComment(event.eventType)) continue;
-    if (!event.PrintEvent(pages, x, bottom)) {
+    const bool printed = !Defaults().bPrintSpeechOnly || IsSpokenOrComment(event.eventType);
+    if (printed && !event.PrintEvent(pages, x, bottom)) {
       goOnOverleaf();
       // What is taller than a page runs over its end.
       event.PrintEvent(pages, x, kNoBottom);
