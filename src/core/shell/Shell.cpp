@@ -66,7 +66,7 @@ CommandPredicates Shell::Predicates() const {
 }
 
 std::string Shell::Caption() const {
-  const std::string title = kProgramTitle;
+  std::string title = kProgramTitle;
   if (!conFile_) return title;
   return title + " - " + (conFileName.empty() ? "(New File)" : conFileName);
 }
