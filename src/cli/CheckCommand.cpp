@@ -8,7 +8,6 @@
 #include "cli/Session.h"
 #include "cli/TextTable.h"
 #include "general/CodePage.h"
-#include "integrity/LabelCheck.h"
 
 namespace parlate::cli {
 
@@ -53,8 +52,9 @@ void AddCheckCommand(CLI::App& app, const Streams& streams, int& result) {
   command->add_flag("--json", options->json, "Write JSON instead of a table");
   command->callback([options, streams, &result] {
     Session session;
+    session.showsFlags = true;  // what the window cannot read to its end is not sound
     session.Load(options->path);
-    const auto rows = CheckLabels(session.file, session, session.badLabels);
+    const auto rows = session.CheckAllLabels();
     if (options->json) {
       WriteRows(streams.out, rows);
     } else {

@@ -73,6 +73,7 @@ void WriteFile(std::ostream& out, const Session& session) {
 
 void AddDumpCommand(CLI::App& app, const Streams& streams, int& result) {
   auto* command = app.add_subcommand("dump", "Write the whole content of a file as JSON");
+  command->footer("Infinity and NaN are written as null: JSON has no word for them.");
   auto path = std::make_shared<std::string>();
   command->add_option("FILE", *path, "Conversation file")->required();
   command->callback([path, streams, &result] {

@@ -56,15 +56,12 @@ void Import(const ImportOptions& options, std::ostream& err) {
   options.save.Apply(session);
   session.Load(options.in);
   MissedLines missed(options.text);
-  try {
+  NamingFile(options.text, [&] {
     FileSource source(options.text);
     TextReader text(source);
     ConversationImport(session.file, text, &missed).ImportConversations(session.Host().progress);
     if (text.Failure()) throw RuntimeError(*text.Failure());
-  } catch (RuntimeError& error) {
-    error.AddRecord(options.text);
-    throw;
-  }
+  });
   session.Save(options.out);
   err << missed.Lines();
 }

@@ -10,6 +10,7 @@
 #include "cli/Session.h"
 #include "cli/TextTable.h"
 #include "general/CodePage.h"
+#include "model/ErrorPlaces.h"
 #include "model/Tables.h"
 #include "shell/EventRows.h"
 
@@ -51,10 +52,12 @@ std::string ColorMeaning(std::int32_t color) {
 /// actors and flags, and all of them at once can be many times the file.
 void ForEachRow(Session& session, const Conversation& con,
                 const std::function<void(const ListRow&)>& visit) {
-  for (const EventItem& event : con.events) {
-    visit(BuildEventRow(con, event));
-    session.badLabels.ClearBadLabels();
-  }
+  InPlace(con, [&] {
+    for (const EventItem& event : con.events) {
+      InPlace(event, [&] { visit(BuildEventRow(con, event)); });
+      session.badLabels.ClearBadLabels();
+    }
+  });
 }
 
 Json ToJson(const ListRow& row) {

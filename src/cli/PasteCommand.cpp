@@ -8,6 +8,7 @@
 #include "cli/Session.h"
 #include "general/RuntimeError.h"
 #include "integrity/ConversationClipboard.h"
+#include "model/ErrorPlaces.h"
 
 namespace parlate::cli {
 
@@ -21,22 +22,10 @@ struct PasteOptions {
   SaveOptions save;
 };
 
-/// There are two files to load, so a failure names the one that it is about.
-void Load(Session& session, const std::string& path) {
-  try {
-    session.Load(path);
-  } catch (const Refusal& refusal) {
-    throw Refusal(path + ", " + refusal.what());
-  } catch (RuntimeError& error) {
-    error.AddRecord(path);
-    throw;
-  }
-}
-
 void Paste(const PasteOptions& options) {
   Session from;
   options.save.Apply(from);
-  Load(from, options.from);
+  from.LoadOneOfTwo(options.from);
   const auto con = from.GetConFromID(options.key);
   if (!con) {
     throw RuntimeError(
@@ -44,13 +33,13 @@ void Paste(const PasteOptions& options) {
         options.from + " has no conversation with the key " + std::to_string(options.key));
   }
   ConversationClipboard clipboard;
-  clipboard.Copy(*con);
+  NamingFile(options.from, [&] { InPlace(*con, [&] { clipboard.Copy(*con); }); });
 
   Session into;
   options.save.Apply(into);
   // The links of what is on the clipboard go with it from one file to the other.
   into.workspace.tables.tableBuffer = std::move(from.workspace.tables.tableBuffer);
-  Load(into, options.into);
+  into.LoadOneOfTwo(options.into);
   into.TreeViewAddConversation(clipboard.Paste(into.file), true);
   into.Save(options.out);
 }

@@ -9,6 +9,7 @@
 #include "general/PrintSurface.h"
 #include "general/RuntimeError.h"
 #include "interchange/ExportConversation.h"
+#include "model/ErrorPlaces.h"
 #include "model/Tables.h"
 #include "model/printing/PrintPages.h"
 #include "printing/ConversationListing.h"
@@ -91,7 +92,7 @@ void PrintFile(Session& session, const PrintOptions& options, PrintPages& pages)
   for (const Conversation& con : session.file.Conversations) {
     if (!all && con.conName != wanted) continue;
     found = true;
-    con.PrintConversation(pages, !options.noHeader);
+    InPlace(con, [&] { con.PrintConversation(pages, !options.noHeader); });
   }
   if (!all && !found) {
     throw RuntimeError(RuntimeError::kInvalidProcedureCall,

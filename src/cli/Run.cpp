@@ -19,6 +19,15 @@ int Fail(const Streams& streams, int code, std::string line) {
   return code;
 }
 
+/// What is wrong with the command line. Where a command is due and another word stands, the parser
+/// says only that there is none.
+std::string UsageError(const CLI::App& app, const CLI::ParseError& error) {
+  const std::vector<std::string> left = app.remaining();
+  if (!app.get_subcommands().empty() || left.empty()) return error.what();
+  const bool option = left.front().starts_with('-');
+  return (option ? "no such option: " : "no such command: ") + left.front();
+}
+
 int ParseAndRun(CLI::App& app, std::vector<std::string> arguments, const Streams& streams,
                 const int& result) {
   try {
@@ -30,7 +39,7 @@ int ParseAndRun(CLI::App& app, std::vector<std::string> arguments, const Streams
   } catch (const CLI::Success& asked) {  // --help and --version
     return app.exit(asked, streams.out, streams.err);
   } catch (const CLI::ParseError& error) {
-    return Fail(streams, kFailure, error.what());
+    return Fail(streams, kFailure, UsageError(app, error));
   } catch (const Refusal& refusal) {
     return Fail(streams, kRefused, refusal.what());
   } catch (const RuntimeError& error) {

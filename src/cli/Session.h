@@ -1,15 +1,12 @@
 #pragma once
 
-#include <cstdint>
 #include <functional>
 #include <memory>
 #include <stdexcept>
 #include <string>
 
-#include "integrity/LabelCheck.h"
-#include "model/ConversationFile.h"
-#include "model/Workspace.h"
-#include "shell/ConversationTree.h"
+#include "general/RuntimeError.h"
+#include "shell/WindowlessFile.h"
 
 namespace parlate::cli {
 
@@ -19,21 +16,28 @@ class Refusal : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-/// An open conversation file with the program round it that the model needs: a workspace of its
-/// own, put in place for as long as the session lives, and the tree that gives the order.
-class Session final : public ConversationDirectory,
-                      public ConversationTreeOrder,
-                      private MessageBoxes,
-                      private ProgressDisplay {
+/// Runs the work; what it throws names the file that it is about.
+template <class Work>
+void NamingFile(const std::string& path, Work work) {
+  try {
+    work();
+  } catch (const Refusal& refusal) {
+    throw Refusal(path + ", " + refusal.what());
+  } catch (RuntimeError& error) {
+    error.AddRecord(path);
+    throw;
+  }
+}
+
+/// An open conversation file as a command works on it. A message to the user ends the command as a
+/// refusal.
+class Session final : public WindowlessFile {
  public:
-  Session();
-
-  Workspace workspace;
-  ConversationFile file;
-  BadLabels badLabels;
-
-  /// Throws Refusal, or RuntimeError with the place of the damage.
+  /// Throws Refusal, or RuntimeError: with the path for a file that cannot be opened, and with the
+  /// place of the damage for one that can.
   void Load(const std::string& path);
+  /// The same of two files that a command takes: each failure has the path.
+  void LoadOneOfTwo(const std::string& path);
   /// Writes to a new file beside `path` that takes its place when it is whole: nothing is left
   /// behind on a failure.
   void Save(const std::string& path);
@@ -41,24 +45,9 @@ class Session final : public ConversationDirectory,
   /// Calls back with each conversation in the order of the tree.
   void ForEachConversation(const std::function<void(const Conversation&)>& visit) const;
 
-  [[nodiscard]] std::shared_ptr<Conversation> GetConFromID(std::int32_t conID) const override;
-  [[nodiscard]] std::int32_t GetConIDFromName(std::int32_t conOwner,
-                                              const std::string& conName) const override;
-  void TreeViewAddConversation(const std::shared_ptr<Conversation>& con, Boolean bSelect) override;
-  void WalkConversations(const std::function<void(std::int32_t)>& visit) const override;
-
-  /// What walks over the conversations ask for: a message ends the command as a refusal.
-  [[nodiscard]] FileHost Host() { return {*this, *this, *this}; }
-
  private:
   Answer Show(const MessageBox& box) override;
-  void Begin(const std::string&, const std::string&, int) override {}
-  void SetTop(int) override {}
-  void Step(const std::string&, int) override {}
-  void End() override {}
-
-  WorkspaceScope scope_;
-  ConversationTree tree_;
+  void LoadFrom(ByteSource& source);
 };
 
 }  // namespace parlate::cli

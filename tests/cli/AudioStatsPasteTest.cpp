@@ -53,7 +53,9 @@ TEST_F(Audio, WritesNothingWhenASpeakerHasNoRow) {
       Put("in.con", FileOf(HarbourTables(), {Con(0, "c", kZoe, {Speech(1, "", {}, "Who?", "")})}));
   const Ran ran = RunTool({"audio", in, out_});
   EXPECT_EQ(ran.code, 2);
-  EXPECT_EQ(ran.err, "parlate-cli: the table Actors/Pawn has no row -1\n");
+  EXPECT_EQ(ran.err,
+            "parlate-cli: conversation \"c\" (key 0), event 1, the table Actors/Pawn has no row "
+            "-1\n");
   EXPECT_FALSE(FileExists(out_));
 }
 
@@ -83,6 +85,9 @@ TEST_F(Stats, FailWhenASpeakerHasNoRow) {
   const Ran ran = RunTool({"stats", in, "--json"});
   EXPECT_EQ(ran.code, 2);
   EXPECT_THAT(ran.out, IsEmpty());
+  EXPECT_EQ(ran.err,
+            "parlate-cli: conversation \"c\" (key 0), event 1, the table Actors/Pawn has no row "
+            "-1\n");
 }
 
 /// A file whose actors are other rows than those of the harbour.
@@ -136,6 +141,16 @@ TEST_F(Paste, TellsWhichFileItIsAbout) {
   EXPECT_EQ(cut.code, 2);
   EXPECT_THAT(cut.err, HasSubstr("cut.con, "));
   EXPECT_THAT(cut.err, HasSubstr("(offset "));
+  EXPECT_FALSE(FileExists(out_));
+}
+
+TEST_F(Paste, TellsWhereTheReferenceToAMissingRowIs) {
+  const std::string from =
+      Put("from.con", FileOf(HarbourTables(), {Con(3, "c", kZoe, {CheckObject(5, 99, "Lost")})}));
+  const Ran ran = RunTool({"paste", from, "3", Put("into.con", OtherFile()), out_});
+  EXPECT_EQ(ran.code, 2);
+  EXPECT_EQ(ran.err, "parlate-cli: " + from +
+                         ", conversation \"c\" (key 3), event 5, the table Object has no row 99\n");
   EXPECT_FALSE(FileExists(out_));
 }
 

@@ -91,5 +91,72 @@ TEST_F(Check, ReportsThemAsJson) {
                             entry("Second", "Gone", 4), entry("Second", "Lost", 9)}));
 }
 
+/// Three conversations; a flag of the second one's own has no row.
+class CheckLostFlag : public Check {
+ protected:
+  CheckLostFlag() {
+    TableFields tables;
+    tables.actors = {{0, "Alex"}};
+    tables.flags = {{2, "Door"}};
+    FileBytes file(28);
+    file.Start().Header({}).Tables(tables).I32(3).I32(3);
+    ConversationFields con;
+    con.owner = {0, "Alex"};
+    con.conName = "Arrival";
+    file.Conversation(con).I32(0);
+    startOfSecond_ = file.Size();
+    con.key = 1;
+    con.conName = "Qu\xE9rel\n";
+    con.flags = {{2, "Door", true, 0}, {8, "Lamp", true, 0}};
+    file.Conversation(con).I32(1).Event(0, 1, 18, "");
+    con.key = 2;
+    con.conName = "Parting";
+    con.flags.clear();
+    bytes_ = file.Conversation(con).I32(0).Bytes();
+  }
+
+  std::string bytes_;
+  std::size_t startOfSecond_ = 0;
+};
+
+TEST_F(CheckLostFlag, OfAConversationIsToldWithItsPlaceSinceTheEditorReadsNoFurther) {
+  for (const bool json : {false, true}) {
+    const Ran ran = RunOn(bytes_, json);
+    EXPECT_EQ(ran.code, 2);
+    EXPECT_THAT(ran.out, IsEmpty());
+    EXPECT_EQ(
+        ran.err,
+        "parlate-cli: conversation 2 of 3 (Qu\xC3\xA9rel ), flag 2, the table Flag has no row "
+        "8 (offset " +
+            std::to_string(startOfSecond_) + ")\n");
+  }
+}
+
+TEST_F(CheckLostFlag, StopsNoCommandThatShowsTheFileAsItIs) {
+  WriteBytes(folder_.File("in.con"), bytes_);
+  const Ran dump = RunTool({"dump", folder_.File("in.con")});
+  EXPECT_EQ(dump.code, 0);
+  EXPECT_EQ(nlohmann::json::parse(dump.out)["Conversations"].size(), 3U);
+  const Ran list = RunTool({"list", "--json", folder_.File("in.con")});
+  EXPECT_EQ(list.code, 0);
+  EXPECT_EQ(nlohmann::json::parse(list.out).size(), 3U);
+}
+
+TEST_F(CheckLostFlag, EndsAConversionWithTheNameOfTheConversation) {
+  WriteBytes(folder_.File("in.con"), bytes_);
+  const Ran ran = RunTool({"convert", folder_.File("in.con"), folder_.File("out.con")});
+  EXPECT_EQ(ran.code, 2);
+  EXPECT_EQ(ran.err,
+            "parlate-cli: conversation \"Qu\xC3\xA9rel \" (key 1), the table Flag has no row 8\n");
+}
+
+TEST_F(CheckLostFlag, OfAnEventIsNoneOfItsBusiness) {
+  TableFields tables;
+  tables.actors = {{0, "Alex"}};
+  const std::string payload = FileBytes(28).Flags({{8, "Lamp", true, 0}}).Bytes();
+  EXPECT_EQ(RunOn(testing_support::OneEventFile(28, tables, 2, payload).Bytes()).code, 0)
+      << "the editor reads such a file to its end";
+}
+
 }  // namespace
 }  // namespace parlate::cli

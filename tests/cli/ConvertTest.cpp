@@ -125,7 +125,8 @@ TEST_F(Convert, LeavesNothingBehindWhenTheSaveStumbles) {
   WriteBytes(out_, "precious");
   const Ran ran = RunOn(testing_support::OneEventFile(28, tables, 4, payload).Bytes());
   EXPECT_EQ(ran.code, 2);
-  EXPECT_EQ(ran.err, "parlate-cli: the table Object has no row 8\n");
+  EXPECT_EQ(ran.err,
+            "parlate-cli: conversation \"Con\" (key 0), event 1, the table Object has no row 8\n");
   EXPECT_EQ(ReadBytes(out_), "precious");
   EXPECT_EQ(FileCount(), 2U);
 }

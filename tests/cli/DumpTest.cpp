@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <nlohmann/json.hpp>
 #include <string>
 #include <vector>
@@ -132,6 +133,17 @@ TEST_F(Dump, HasThePayloadOfEveryType) {
   }
   EXPECT_EQ(events[0]["eventLabel"], "Start");
   EXPECT_EQ(events[22]["eventType"], 18);
+}
+
+TEST_F(Dump, WritesNullForWhatIsNoNumber) {
+  testing_support::HeaderFields header;
+  header.creationDate = std::numeric_limits<double>::quiet_NaN();
+  header.lastUpdated = -std::numeric_limits<double>::infinity();
+  testing_support::FileBytes bytes(28);
+  bytes.Start().Header(header).Tables({}).I32(0).I32(0);
+  const Ordered file = Of(bytes.Bytes());
+  EXPECT_TRUE(file["CreationDate"].is_null());
+  EXPECT_TRUE(file["LastUpdated"].is_null());
 }
 
 TEST_F(Dump, GivesTheVersionAndTypesOfAnOldFileAsItReadsThem) {

@@ -75,7 +75,9 @@ TEST_F(Export, WritesNothingWhenASpeakerHasNoRow) {
   const Ran ran =
       RunOn(FileOf(HarbourTables(), {Con(0, "greeting", kZoe, {Speech(1, "", {}, "Who?", "")})}));
   EXPECT_EQ(ran.code, 2);
-  EXPECT_EQ(ran.err, "parlate-cli: the table Actors/Pawn has no row -1\n");
+  EXPECT_EQ(ran.err,
+            "parlate-cli: conversation \"greeting\" (key 0), event 1, the table Actors/Pawn has no "
+            "row -1\n");
   EXPECT_EQ(FileCount(), 1U);
 }
 

@@ -103,7 +103,8 @@ TEST_F(Import, OfARunThatFailsOnlyTheFailureIsTold) {
   WriteBytes(in_, FileOf(HarbourTables(), {Con(0, "c", kZoe, {CheckObject(1, 99, "gone")})}));
   const Ran ran = RunTool({"import", in_, text_, out_});
   EXPECT_EQ(ran.code, 2);
-  EXPECT_EQ(ran.err, "parlate-cli: the table Object has no row 99\n");
+  EXPECT_EQ(ran.err,
+            "parlate-cli: conversation \"c\" (key 0), event 1, the table Object has no row 99\n");
   EXPECT_FALSE(FileExists(out_));
 }
 

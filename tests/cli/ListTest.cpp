@@ -129,7 +129,8 @@ TEST_F(List, WritesNothingWhenARowCannotBeTold) {
   const Ran ran = RunWith({});
   EXPECT_EQ(ran.code, 2);
   EXPECT_THAT(ran.out, IsEmpty());
-  EXPECT_EQ(ran.err, "parlate-cli: the table Object has no row 8\n");
+  EXPECT_EQ(ran.err,
+            "parlate-cli: conversation \"Con\" (key 0), event 1, the table Object has no row 8\n");
 }
 
 TEST_F(List, TellsEveryTypeOfTheSampleOfEveryVersion) {

@@ -111,6 +111,14 @@ TEST_F(Print, SaysWhereItCannotWrite) {
   EXPECT_THAT(printers_.calls, IsEmpty());
 }
 
+TEST_F(Print, NamesTheConversationThatCannotBeTold) {
+  WriteBytes(in_, FileOf(HarbourTables(), {Con(6, "c", kZoe, {CheckObject(1, 99, "gone")})}));
+  const Ran ran = RunWith({});
+  EXPECT_EQ(ran.code, 2);
+  EXPECT_EQ(ran.err, "parlate-cli: conversation \"c\" (key 6), the table Object has no row 99\n");
+  EXPECT_FALSE(std::filesystem::exists(out_));
+}
+
 TEST_F(Print, LeavesNothingBehindWhenThePrinterFails) {
   printers_.callsUntilFailure = 5;
   const Ran ran = RunWith({});

@@ -50,7 +50,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(Helped{"",
                            {"dump", "list", "check", "convert", "export", "import", "audio",
                             "stats", "paste", "print", "--version"}},
-                    Helped{"dump", {"FILE", "JSON"}},
+                    Helped{"dump", {"FILE", "JSON", "Infinity and NaN are written as null"}},
                     Helped{"print",
                            {"IN", "OUT.pdf", "--listing", "--con", "--no-header", "--speech-only",
                             "--audio-names", "--no-blank-lines", "--no-footers", "--page-breaks",
@@ -98,6 +98,34 @@ TEST(Usage, ErrorsAreOneLineAndTwo) {
   }
 }
 
+TEST(Usage, NamesTheWordThatIsNoCommand) {
+  EXPECT_EQ(RunTool({"chek", "x"}).err, "parlate-cli: no such command: chek\n");
+  EXPECT_EQ(RunTool({"chek", "--json", "x"}).err, "parlate-cli: no such command: chek\n");
+  EXPECT_EQ(RunTool({"--chek"}).err, "parlate-cli: no such option: --chek\n");
+}
+
+TEST(Usage, SaysOfACommandWhatItLacksOrDoesNotKnow) {
+  EXPECT_THAT(RunTool({}).err, HasSubstr("subcommand is required"));
+  EXPECT_THAT(RunTool({"check"}).err, HasSubstr("FILE is required"));
+  EXPECT_THAT(RunTool({"check", "--unknown", "a"}).err, HasSubstr("--unknown"));
+  EXPECT_THAT(RunTool({"dump", "a", "extra"}).err, HasSubstr("extra"));
+}
+
+TEST(Usage, NamesAFileThatCannotBeOpenedOnce) {
+  const TemporaryFolder folder;
+  const std::string none = folder.File("none.con");
+  const std::string out = folder.File("out");
+  const std::string line = "parlate-cli: " + none + ", File not found\n";
+  EXPECT_EQ(RunTool({"import", none, none, out}).err, line);
+  EXPECT_EQ(RunTool({"paste", none, "0", none, out}).err, line);
+  const std::string good = folder.File("in.con");
+  WriteBytes(good, testing_support::SampleFile(28));
+  EXPECT_EQ(RunTool({"import", good, none, out}).err, line);
+  EXPECT_EQ(RunTool({"paste", good, "0", none, out}).err, line);
+  EXPECT_EQ(RunTool({"paste", folder.Path(), "0", good, out}).err,
+            "parlate-cli: " + folder.Path() + ", Path/File access error\n");
+}
+
 class EachCommand : public testing::TestWithParam<std::string> {
  protected:
   Ran RunOn(const std::string& path) {
@@ -119,13 +147,14 @@ TEST_P(EachCommand, FailsForAFileThatIsNotThere) {
   const Ran ran = RunOn(folder_.File("none.con"));
   EXPECT_EQ(ran.code, 2);
   ExpectOneErrorLine(ran);
-  EXPECT_THAT(ran.err, HasSubstr("File not found"));
+  EXPECT_EQ(ran.err, "parlate-cli: " + folder_.File("none.con") + ", File not found\n");
 }
 
 TEST_P(EachCommand, FailsForAFolder) {
   const Ran ran = RunOn(folder_.Path());
   EXPECT_EQ(ran.code, 2);
   ExpectOneErrorLine(ran);
+  EXPECT_EQ(ran.err, "parlate-cli: " + folder_.Path() + ", Path/File access error\n");
 }
 
 TEST_P(EachCommand, RefusesWhatIsNoConversationFile) {
@@ -191,7 +220,7 @@ TEST_P(EachCommand, FailsForAConversationWhoseOwnerHasNoRow) {
   const Ran ran = RunOnBytes(file.Bytes());
   EXPECT_EQ(ran.code, 2);
   ExpectOneErrorLine(ran);
-  EXPECT_THAT(ran.err, HasSubstr("conversation 1 of 1"));
+  EXPECT_THAT(ran.err, HasSubstr("conversation 1 of 1 (Con), the table Actors/Pawn has no row -1"));
 }
 
 INSTANTIATE_TEST_SUITE_P(OfTheTool, EachCommand,

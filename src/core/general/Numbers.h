@@ -1,6 +1,7 @@
 #pragma once
 
 #include <charconv>
+#include <cmath>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -8,10 +9,16 @@
 
 namespace parlate {
 
-/// The shortest text that gives the same double again, in its general form: 2, 1.5, -1.25.
+/// The number with the fewest digits that give the same double again: 2, 1.5, -1.25, 100000. Only a
+/// very large or a very small one has an exponent: 1e+15, 1e-05.
 [[nodiscard]] inline std::string FormatDouble(double value) {
+  constexpr double kSmallestPlain = 1e-4;
+  constexpr double kFirstTooLarge = 1e15;
+  const double size = std::fabs(value);
+  const bool plain = value == 0 || (size >= kSmallestPlain && size < kFirstTooLarge);
   char buffer[32];
-  const auto end = std::to_chars(buffer, buffer + sizeof(buffer), value).ptr;
+  const auto format = plain ? std::chars_format::fixed : std::chars_format::scientific;
+  const auto end = std::to_chars(buffer, buffer + sizeof(buffer), value, format).ptr;
   return {buffer, end};
 }
 

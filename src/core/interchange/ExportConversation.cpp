@@ -6,6 +6,7 @@
 
 #include "general/Rounding.h"
 #include "general/RuntimeError.h"
+#include "model/ErrorPlaces.h"
 #include "model/Tables.h"
 #include "model/Vocabulary.h"
 
@@ -42,7 +43,9 @@ ExportConversation::ExportConversation(std::string audioPackage)
 void ExportConversation::ExportCon(Conversation& con) {
   BeginConversationExport(con);
   ExportHeader();
-  for (EventItem& event : con.events) ExportEvent(event);
+  for (EventItem& event : con.events) {
+    InPlace(event, [&] { ExportEvent(event); });
+  }
 }
 
 void ExportConversation::BeginConversationExport(Conversation& con) {
@@ -170,7 +173,7 @@ void ExportConversations(ConversationFile& file, TextWriter* text, std::int32_t 
   host.tree.WalkConversations([&](std::int32_t key) {
     Conversation& con = file.Conversations.At(key);
     host.progress.Step(con.conName, ++step);
-    exporter.ExportCon(con);
+    InPlace(con, [&] { exporter.ExportCon(con); });
   });
   // A text that does not fit on the disk is a failure of the walk, not of what comes after it.
   if (text != nullptr) text->Flush();

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "general/RuntimeError.h"
+#include "model/ErrorPlaces.h"
 #include "model/Tables.h"
 #include "model/Workspace.h"
 
@@ -129,7 +130,9 @@ void Conversation::ChangeConTableLink(std::int32_t tableType, std::int32_t oldID
 void Conversation::StoreTableData() const {
   BufferTableItem(kActorTable, NPCID);
   for (const FlagRef& flag : flagRefs) BufferTableItem(kFlagTable, flag.flagID);
-  for (const EventItem& event : events) event.StoreTableData();
+  for (const EventItem& event : events) {
+    InPlace(event, [&] { event.StoreTableData(); });
+  }
 }
 
 void Conversation::RemoveConversationLinks(std::int32_t conKey) {

@@ -4,6 +4,7 @@
 
 #include "general/CodePage.h"
 #include "general/Rounding.h"
+#include "model/ErrorPlaces.h"
 #include "model/Tables.h"
 #include "model/Vocabulary.h"
 
@@ -12,23 +13,28 @@ namespace parlate {
 void SpeakerStats::BuildSpeakerStats(const ConversationFile& file) {
   totalLines = 0;
   totalSpeakers = 0;
-  const Table& actors = *GetTable(kActorTable);
   // A name is looked up once for each actor, not once for each line.
-  std::vector<std::size_t> rowOfPlace(actors.Count() + 1, kNoRow);
+  std::vector<std::size_t> rowOfPlace(GetTable(kActorTable)->Count() + 1, kNoRow);
   for (const Conversation& con : file.Conversations) {
-    for (const EventItem& event : con.events) {
-      if (const auto* speech = event.As<EventSpeech>()) {
-        std::size_t& row = rowOfPlace[actors.PlaceOf(speech->ActorSpeakerID)];
-        if (row == kNoRow)
-          row = FindOrAddRow(GetTableItemName(kActorTable, speech->ActorSpeakerID));
-        AddSpeakerLine(row, 1);
-      } else if (const auto* choice = event.As<EventChoice>(); choice && !choice->Choices.Empty()) {
-        const std::size_t row = FindOrAddRow(std::string(kPlayerName));
-        AddSpeakerLine(row, NarrowTo<std::int32_t>(choice->Choices.Count()));
+    InPlace(con, [&] {
+      for (const EventItem& event : con.events) {
+        InPlace(event, [&] { AddEvent(event, rowOfPlace); });
       }
-    }
+    });
   }
   SortRows();
+}
+
+void SpeakerStats::AddEvent(const EventItem& event, std::vector<std::size_t>& rowOfPlace) {
+  if (const auto* speech = event.As<EventSpeech>()) {
+    const std::int32_t speaker = speech->ActorSpeakerID;
+    std::size_t& row = rowOfPlace[GetTable(kActorTable)->PlaceOf(speaker)];
+    if (row == kNoRow) row = FindOrAddRow(GetTableItemName(kActorTable, speaker));
+    AddSpeakerLine(row, 1);
+  } else if (const auto* choice = event.As<EventChoice>(); choice && !choice->Choices.Empty()) {
+    const std::size_t row = FindOrAddRow(std::string(kPlayerName));
+    AddSpeakerLine(row, NarrowTo<std::int32_t>(choice->Choices.Count()));
+  }
 }
 
 void SpeakerStats::AddSpeakerLine(std::size_t row, std::int32_t lines) {

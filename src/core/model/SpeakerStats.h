@@ -34,6 +34,9 @@ class SpeakerStats {
  private:
   static constexpr std::size_t kNoRow = static_cast<std::size_t>(-1);
 
+  /// Counts the lines of one event. `rowOfPlace` has the row of each actor that spoke already, by
+  /// the actor's place in the table.
+  void AddEvent(const EventItem& event, std::vector<std::size_t>& rowOfPlace);
   void AddSpeakerLine(std::size_t row, std::int32_t lines);
   /// The row of exactly that name, made if there is none.
   std::size_t FindOrAddRow(const std::string& name);

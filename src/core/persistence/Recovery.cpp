@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
+#include <filesystem>
 #include <utility>
 
 #include "general/BinaryFile.h"
@@ -78,7 +79,7 @@ std::string RecoveryFileName(const std::string& conFileName, Date moment) {
   std::snprintf(text.data(), text.size(), "-%04d%02u%02u-%02d%02d%02d",
                 static_cast<int>(date.year()), static_cast<unsigned>(date.month()),
                 static_cast<unsigned>(date.day()), ofDay / 3600, ofDay / 60 % 60, ofDay % 60);
-  const std::string name = StripExtension(GetFileOnly(conFileName));
+  const std::string name = std::filesystem::path(conFileName).stem().string();
   return (name.empty() ? "untitled" : name) + text.data() + ".con";
 }
 

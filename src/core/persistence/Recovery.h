@@ -7,7 +7,8 @@
 namespace parlate {
 
 /// The name of a rescued file: that of the open file without folder and extension, or "untitled",
-/// and the moment as year, month, day and time of day. As "harbour-20260314-174503.con".
+/// and the moment as year, month, day and time of day. As "harbour-20260314-174503.con". Only what
+/// stands behind the last point is the extension.
 [[nodiscard]] std::string RecoveryFileName(const std::string& conFileName, Date moment);
 
 /// Writes all conversations of a file to a new file in `folder`, which is made if need be. What a

@@ -20,12 +20,26 @@ int ErrorOf(Statement statement) {
   return 0;
 }
 
-TEST(FormatDouble, GivesTheShortestGeneralForm) {
+TEST(FormatDouble, GivesTheFewestDigitsThatAreEnough) {
   EXPECT_EQ(FormatDouble(2), "2");
   EXPECT_EQ(FormatDouble(1.5), "1.5");
   EXPECT_EQ(FormatDouble(-1.25), "-1.25");
   EXPECT_EQ(FormatDouble(0.1), "0.1");
   EXPECT_EQ(FormatDouble(0), "0");
+  EXPECT_EQ(FormatDouble(-0.5), "-0.5");
+  EXPECT_EQ(FormatDouble(33.3), "33.3");
+  EXPECT_EQ(FormatDouble(123456789), "123456789");
+}
+
+TEST(FormatDouble, HasAnExponentOnlyForTheVeryLargeAndTheVerySmall) {
+  EXPECT_EQ(FormatDouble(100000), "100000");
+  EXPECT_EQ(FormatDouble(-100000), "-100000");
+  EXPECT_EQ(FormatDouble(999999999999999), "999999999999999");
+  EXPECT_EQ(FormatDouble(1e15), "1e+15");
+  EXPECT_EQ(FormatDouble(-1.5e15), "-1.5e+15");
+  EXPECT_EQ(FormatDouble(0.0001), "0.0001");
+  EXPECT_EQ(FormatDouble(-0.00012345678901234567), "-0.00012345678901234567");
+  EXPECT_EQ(FormatDouble(0.00001), "1e-05");
   EXPECT_EQ(FormatDouble(std::numeric_limits<double>::denorm_min()), "5e-324");
 }
 

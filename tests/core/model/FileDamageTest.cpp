@@ -230,12 +230,12 @@ TEST(DamagedFile, WithTwoEqualKeysIsRefused) {
     return FileBytes(28).I32(2).Raw(record).Raw(record).Bytes();
   };
   const std::string con = FileBytes(28).Conversation({}).I32(0).Bytes();
+  const std::size_t startOfSecond = Begun(0).Size() + 4 + con.size();
   const std::string event = FileBytes(28).Event(0, 1, kEnd, "").Bytes();
   const std::string flag = FileBytes(28).I32(2).Str("Door").Bool(true).I32(0).Bytes();
   const std::string choice = FileBytes(28).Choice({}).Bytes();
   const std::string twoChoices = FileBytes(28).I32(2).Bool(true).Raw(two(choice)).Bytes();
   const std::pair<std::string, std::string> files[] = {
-      {Begun(0).Bytes() + two(con), "conversation 2 of 2"},
       {Begun(1).Bytes() + two(event), "conversation 1 of 1, event 2"},
       {OneEventFile(28, {}, kSetFlags, two(flag)).Bytes(), "conversation 1 of 1, event 1, flag 2"},
       {OneEventFile(28, {}, kChoice, twoChoices).Bytes(),
@@ -246,6 +246,10 @@ TEST(DamagedFile, WithTwoEqualKeysIsRefused) {
     EXPECT_EQ(outcome.path, path);
     EXPECT_EQ(outcome.offset, bytes.size()) << "the place behind the second record";
   }
+  const Outcome outcome = OutcomeOf(Begun(0).Bytes() + two(con));
+  EXPECT_EQ(outcome.number, 457);
+  EXPECT_EQ(outcome.path, "conversation 2 of 2 (Con)");
+  EXPECT_EQ(outcome.offset, startOfSecond) << "a conversation that was read whole is wrong as such";
 }
 
 TEST(DamagedFile, WithAnUnknownEventTypeIsRefusedAtTheType) {

@@ -27,6 +27,14 @@ TEST(Recovery, IsNamedByTheFileAndTheMoment) {
   EXPECT_EQ(RecoveryFileName("x.con", MakeDate(1999, 12, 31, 23, 59, 59)), "x-19991231-235959.con");
 }
 
+TEST(Recovery, KeepsAllOfTheNameAheadOfItsLastPoint) {
+  const Date moment = MakeDate(2026, 3, 14, 17, 45, 3);
+  EXPECT_EQ(RecoveryFileName("/data/act.one.con", moment), "act.one-20260314-174503.con");
+  EXPECT_EQ(RecoveryFileName("/data/.hidden.con", moment), ".hidden-20260314-174503.con");
+  EXPECT_EQ(RecoveryFileName("/data/.hidden", moment), ".hidden-20260314-174503.con");
+  EXPECT_EQ(RecoveryFileName("/da.ta/harbour", moment), "harbour-20260314-174503.con");
+}
+
 TEST(Recovery, WritesAllConversationsThoughTheTreeKnowsThemNoMore) {
   const TemporaryFolder folder;
   TestWorkspace space;

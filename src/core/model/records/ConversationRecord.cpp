@@ -6,6 +6,7 @@
 #include "general/Rounding.h"
 #include "general/SharedBlocks.h"
 #include "model/Conversation.h"
+#include "model/ErrorPlaces.h"
 #include "model/records/RecordReader.h"
 
 namespace parlate {
@@ -62,7 +63,9 @@ void Conversation::Save(BinaryWriter& file) const {
   file.WriteInt32(invokeRadius);
   SaveFlagRefs(file, flagRefs);
   file.WriteInt32(NarrowTo<std::int32_t>(events.Count()));
-  for (const EventItem& event : events) event.SaveEvent(file);
+  for (const EventItem& event : events) {
+    InPlace(event, [&] { event.SaveEvent(file); });
+  }
 }
 
 void Conversation::Load(RecordReader& in) {

@@ -6,6 +6,7 @@
 #include "general/BinaryFile.h"
 #include "general/Rounding.h"
 #include "model/ConversationFile.h"
+#include "model/ErrorPlaces.h"
 #include "model/Tables.h"
 #include "model/Workspace.h"
 #include "model/records/RecordReader.h"
@@ -110,7 +111,7 @@ void ConversationFile::SaveConversations(BinaryWriter& file, const FileHost& hos
   host.tree.WalkConversations([&](std::int32_t key) {
     const Conversation& con = Conversations.At(key);
     host.progress.Step(con.conName, ++step);
-    con.Save(file);
+    InPlace(con, [&] { con.Save(file); });
   });
   file.Flush();
   host.progress.End();
@@ -145,12 +146,14 @@ void ConversationFile::LoadEachConversation(RecordReader& in, const FileHost& ho
   host.progress.SetTop(static_cast<int>(count));
   Conversations.Reserve(in.file.Plausible(count, kLeastConversationSize));
   for (std::size_t i = 0; i < count; ++i) {
+    const std::uint64_t start = in.file.Offset();
+    const auto con = std::make_shared<Conversation>();
     const auto name = [i, count] {
       return "conversation " + std::to_string(i + 1) + " of " + std::to_string(count);
     };
-    InRecord(in.file, name, [&] {
-      auto con = std::make_shared<Conversation>();
-      con->Load(in);
+    InRecord(in.file, name, [&] { con->Load(in); });
+    const auto fullName = [&] { return name() + " (" + NameInError(con->conName) + ")"; };
+    InWholeRecord(start, fullName, [&] {
       host.progress.Step(con->conName, static_cast<int>(i + 1));
       Conversations.Add(con->key, con);
       host.tree.TreeViewAddConversation(con, false);

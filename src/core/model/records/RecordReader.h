@@ -32,6 +32,19 @@ void InRecord(const BinaryReader& file, Name name, Read read) {
   }
 }
 
+/// Runs what is done with a record that was read whole. What is wrong with it then is wrong with
+/// all of it, so its place is its first byte.
+template <class Name, class Work>
+void InWholeRecord(std::uint64_t start, Name name, Work work) {
+  try {
+    work();
+  } catch (RuntimeError& error) {
+    error.SetOffset(start);
+    error.AddRecord(name());
+    throw;
+  }
+}
+
 /// An ID of the actors table and, above -1, the name of its row. An ID whose row is missing heals:
 /// it becomes that of the row of the name, or of a new row.
 std::int32_t ReadActorRef(RecordReader& in);
