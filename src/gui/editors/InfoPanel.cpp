@@ -13,8 +13,10 @@ void SetUpInfoPanel(QLabel& panel, const char* name, QLabel& label, const QStrin
   panel.setAccessibleName(caption);
   panel.setFrameStyle(static_cast<int>(QFrame::Panel) | static_cast<int>(QFrame::Sunken));
   panel.setMargin(2);
-  // Who uses the keys reaches the value, too, and can copy it.
+  // Who uses the keys reaches the value, too, and can copy it. The flags alone give no more than
+  // the focus of a click.
   panel.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  panel.setFocusPolicy(Qt::StrongFocus);
 }
 
 void ShowInfo(QLabel& panel, const QLabel& label, const QString& value) {

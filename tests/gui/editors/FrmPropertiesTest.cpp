@@ -9,6 +9,7 @@
 
 #include "editors/frmProperties.h"
 #include "mainwindow/WindowFixture.h"
+#include "platform/FormKeys.h"
 #include "platform/Modal.h"
 #include "platform/QtListBox.h"
 #include "support/ScriptedTableEditor.h"
@@ -589,11 +590,39 @@ TEST_F(FrmPropertiesTest, TextsThatNobodyEditedKeepTheirLineEnds) {
 
 TEST_F(FrmPropertiesTest, TabGoesThroughTheGeneralTabFromTopToBottom) {
   Name().setFocus();
-  for (const char* name : {"cboNPC", "cmdEditNPCTable", "txtDesc", "txtNotes", "cmdOK", "cmdCancel",
-                           "qt_tabwidget_tabbar", "txtName"}) {
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    EXPECT_EQ(QApplication::focusWidget()->objectName(), name);
+  ExpectTabVisits({"cboNPC", "cmdEditNPCTable", "txtDesc", "txtNotes", "cmdOK", "cmdCancel",
+                   "qt_tabwidget_tabbar", "txtName"});
+}
+
+TEST_F(FrmPropertiesTest, TabGoesThroughTheOtherTabsFromTopToBottom) {
+  ClickFlag(0);
+  ExpectTabVisits(
+      {"cmdFlagAdd", "cmdFlagRemove", "cmdOK", "cmdCancel", "qt_tabwidget_tabbar", "lstFlags"});
+  GoTo(kInvoke);
+  Tick("chkInvokeRadius");
+  Box("chkInvokeFrob").setFocus();
+  ExpectTabVisits({"chkInvokeBump", "chkInvokeSight", "chkInvokeRadius", "txtInvokeRadius", "cmdOK",
+                   "cmdCancel", "qt_tabwidget_tabbar", "chkInvokeFrob"});
+  GoTo(kOptions);
+  Box("chkDisplayOnce").setFocus();
+  ExpectTabVisits({"chkHoloCall", "chkFirstPerson", "chkNonInteractive", "chkRandomCamera",
+                   "chkCanBeInterupted", "chkCannotBeInterrupted", "cmdOK", "cmdCancel",
+                   "qt_tabwidget_tabbar", "chkDisplayOnce"});
+  GoTo(kInfo);
+  The<QWidget>("panCreationDate").setFocus();
+  ExpectTabVisits({"panCreatedBy", "panLastUpdated", "panLastUpdatedBy", "cmdOK", "cmdCancel",
+                   "qt_tabwidget_tabbar", "panCreationDate"});
+}
+
+TEST_F(FrmPropertiesTest, ComingBackToTheFormTestsNameAndOwnerAnew) {
+  {
+    // What tells the form of a change is kept from it.
+    const QSignalBlocker name(&Name());
+    Name().clear();
   }
+  EXPECT_TRUE(IsEnabled("cmdOK"));
+  LeaveAndComeBack(Form());
+  EXPECT_FALSE(IsEnabled("cmdOK"));
 }
 
 }  // namespace
