@@ -7,14 +7,14 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
-#include <algorithm>
 #include <array>
-#include <chrono>
 #include <cstdio>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "bench/Comparison.h"
+#include "bench/Measure.h"
 #include "shell/ListRows.h"
 #include "widgets/CodePageText.h"
 #include "widgets/MultiColumnList.h"
@@ -24,6 +24,9 @@ namespace {
 using parlate::ListRow;
 using parlate::ListRows;
 using parlate::MultiColumnList;
+using parlate::bench::Comparison;
+using parlate::bench::Median;
+using parlate::bench::Milliseconds;
 
 constexpr int kRows = 32767;
 constexpr int kRounds = 7;
@@ -155,20 +158,6 @@ void Finish(QAbstractScrollArea& area) {
   area.viewport()->repaint();
 }
 
-template <class Action>
-double Milliseconds(Action&& action) {
-  const auto start = std::chrono::steady_clock::now();
-  action();
-  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
-      .count();
-}
-
-double Median(std::vector<double> times) {
-  const auto middle = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
-  std::nth_element(times.begin(), middle, times.end());
-  return *middle;
-}
-
 struct Step {
   const char* name;
   double target;  ///< Highest ratio of our time to the yardstick's.
@@ -189,17 +178,12 @@ double ScrollPages(QAbstractScrollArea& area) {
 }
 
 bool Report(const std::array<Step, 4>& steps) {
-  bool met = true;
-  std::printf("%-18s %12s %12s %8s %8s\n", "step", "list ms", "QListView ms", "ratio", "target");
+  std::vector<Comparison> comparisons;
   for (const Step& step : steps) {
-    const double ours = Median(step.ours);
-    const double yardstick = Median(step.yardstick);
-    const double ratio = ours / yardstick;
-    met = met && ratio <= step.target;
-    std::printf("%-18s %12.2f %12.2f %8.3f %8.2f%s\n", step.name, ours, yardstick, ratio,
-                step.target, ratio <= step.target ? "" : "  MISSED");
+    comparisons.push_back(
+        {step.name, Median(step.ours), "QListView", Median(step.yardstick), step.target});
   }
-  return met;
+  return parlate::bench::Report(comparisons);
 }
 
 int TextHeight(const QAbstractScrollArea& area) {

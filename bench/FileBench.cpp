@@ -3,7 +3,7 @@
 // With --check a missed target ends the program with 1.
 
 #include <CLI/CLI.hpp>
-#include <array>
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "bench/Comparison.h"
 #include "bench/Floor.h"
 #include "bench/Generator.h"
 #include "bench/HostedFile.h"
@@ -83,18 +84,6 @@ std::vector<double> Column(const std::vector<Run>& runs, double Run::*member) {
   return values;
 }
 
-struct Line {
-  const char* name;
-  const char* unit;
-  const char* against;
-  double subject;
-  double yardstick;
-  double target;  ///< Highest ratio.
-
-  [[nodiscard]] double Ratio() const { return subject / yardstick; }
-  [[nodiscard]] bool Met() const { return Ratio() <= target; }
-};
-
 struct Options {
   FileShape shape;
   int rounds = 7;
@@ -140,29 +129,50 @@ class TemporaryFiles {
   Files files_;
 };
 
-void PrintTable(const std::vector<Line>& lines) {
-  std::printf("%-12s %10s %12s  %-12s %7s %7s\n", "", "subject", "yardstick", "which is", "ratio",
-              "at most");
-  for (const Line& line : lines) {
-    std::printf("%-12s %7.1f %s %9.1f %s  %-12s %7.3f %7.2f%s\n", line.name, line.subject,
-                line.unit, line.yardstick, line.unit, line.against, line.Ratio(), line.target,
-                line.Met() ? "" : "  MISSED");
-  }
+nlohmann::json ToJson(const Comparison& comparison, const char* unit) {
+  return {{"name", comparison.subject},      {"unit", unit},
+          {"against", comparison.yardstick}, {"subject", comparison.measured},
+          {"yardstick", comparison.against}, {"ratio", comparison.Ratio()},
+          {"target", comparison.atMost},     {"met", comparison.Met()}};
 }
 
-nlohmann::json ToJson(const std::vector<Line>& lines) {
-  nlohmann::json all = nlohmann::json::array();
-  for (const Line& line : lines) {
-    all.push_back({{"name", line.name},
-                   {"unit", line.unit},
-                   {"against", line.against},
-                   {"subject", line.subject},
-                   {"yardstick", line.yardstick},
-                   {"ratio", line.Ratio()},
-                   {"target", line.target},
-                   {"met", line.Met()}});
+/// What the rounds come to.
+struct Result {
+  std::vector<Comparison> times;
+  Comparison memory;
+  double floorMemory = 0;
+
+  [[nodiscard]] bool Met() const {
+    return memory.Met() && std::all_of(times.begin(), times.end(),
+                                       [](const Comparison& time) { return time.Met(); });
   }
-  return all;
+};
+
+Result Compare(const std::vector<Run>& modelRuns, const std::vector<Run>& floorRuns,
+               std::size_t fileSize) {
+  const auto median = [](const std::vector<Run>& runs, double Run::*member) {
+    return Median(Column(runs, member));
+  };
+  const double load = median(modelRuns, &Run::load);
+  return {
+      {{"load", load, "floor load", median(floorRuns, &Run::load), 1.5},
+       {"save", median(modelRuns, &Run::save), "floor save", median(floorRuns, &Run::save), 1.5},
+       {"check", median(modelRuns, &Run::check), "load", load, 0.25}},
+      {"memory", median(modelRuns, &Run::memory), "file size", Megabytes(fileSize), 4.0},
+      median(floorRuns, &Run::memory)};
+}
+
+void PrintJson(const Result& result) {
+  nlohmann::json all = nlohmann::json::array();
+  for (const Comparison& time : result.times) all.push_back(ToJson(time, "ms"));
+  all.push_back(ToJson(result.memory, "MB"));
+  std::printf("%s\n", all.dump(2).c_str());
+}
+
+void PrintTables(const Result& result) {
+  Report(result.times);
+  Report({&result.memory, 1}, "MB");
+  std::printf("(the floor itself takes %.1f MB)\n", result.floorMemory);
 }
 
 int Bench(const Options& options) {
@@ -185,28 +195,16 @@ int Bench(const Options& options) {
       throw std::runtime_error("a saved file is not as long as its source");
     }
   }
-  const auto median = [](const std::vector<Run>& runs, double Run::*member) {
-    return Median(Column(runs, member));
-  };
-  const double load = median(modelRuns, &Run::load);
-  const std::vector<Line> lines = {
-      {"load", "ms", "floor load", load, median(floorRuns, &Run::load), 1.5},
-      {"save", "ms", "floor save", median(modelRuns, &Run::save), median(floorRuns, &Run::save),
-       1.5},
-      {"check", "ms", "load", median(modelRuns, &Run::check), load, 0.25},
-      {"memory", "MB", "file size", median(modelRuns, &Run::memory), Megabytes(files.size), 4.0},
-  };
+  const Result result = Compare(modelRuns, floorRuns, files.size);
   if (options.json) {
-    std::printf("%s\n", ToJson(lines).dump(2).c_str());
+    PrintJson(result);
   } else {
     std::printf("%d conversations of %d events, %.1f MB, medians of %d rounds\n",
                 options.shape.conversations, options.shape.events, Megabytes(files.size),
                 options.rounds);
-    PrintTable(lines);
-    std::printf("(the floor itself takes %.1f MB)\n", median(floorRuns, &Run::memory));
+    PrintTables(result);
   }
-  const bool met = std::all_of(lines.begin(), lines.end(), [](const Line& l) { return l.Met(); });
-  return options.check && !met ? 1 : 0;
+  return options.check && !result.Met() ? 1 : 0;
 }
 
 }  // namespace

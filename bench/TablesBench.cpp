@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "bench/Comparison.h"
 #include "bench/Generator.h"
 #include "bench/HostedFile.h"
 #include "bench/Measure.h"
@@ -64,24 +65,17 @@ double CleanUp(const HostedFile& hosted, std::int32_t tableType) {
   return time;
 }
 
-bool Line(const std::string& work, double time, const char* yardstick, double than, double most) {
-  const double ratio = time / than;
-  std::printf("%-34s %8.2f ms %8.2f ms, %-18s %6.2f %8.2f%s\n", work.c_str(), time, than, yardstick,
-              ratio, most, ratio <= most ? "" : "  MISSED");
-  return ratio <= most;
-}
-
-bool Report(const std::vector<double>& checks, const std::vector<TableTimes>& tables) {
-  std::printf("%-34s %11s %11s  %-18s %6s %8s\n", "", "time", "yardstick", "", "ratio", "at most");
-  bool met = true;
+std::vector<Comparison> Compare(const std::vector<double>& checks,
+                                const std::vector<TableTimes>& tables) {
+  std::vector<Comparison> comparisons;
   for (const TableTimes& table : tables) {
     const double ask = Median(table.ask);
-    met &= Line(std::string("is one row referenced, ") + table.name, ask, "label check",
-                Median(checks), kMostOfCheck);
-    met &= Line(std::string("remove the unused, ") + table.name, Median(table.clean),
-                "one such question", ask, kMostOfWalk);
+    comparisons.push_back({std::string("is one row referenced, ") + table.name, ask, "label check",
+                           Median(checks), kMostOfCheck});
+    comparisons.push_back({std::string("remove the unused, ") + table.name, Median(table.clean),
+                           "one such question", ask, kMostOfWalk});
   }
-  return met;
+  return comparisons;
 }
 
 }  // namespace
@@ -111,7 +105,7 @@ int main(int argc, char** argv) {
         table.clean.push_back(CleanUp(hosted, table.tableType));
       }
     }
-    const bool met = Report(checks, tables);
+    const bool met = Report(Compare(checks, tables));
     return check && !met ? 1 : 0;
   } catch (const std::exception& error) {
     std::fprintf(stderr, "%s\n", error.what());

@@ -13,6 +13,7 @@
 #include <string>
 #include <vector>
 
+#include "bench/Comparison.h"
 #include "bench/Generator.h"
 #include "bench/HostedFile.h"
 #include "bench/Measure.h"
@@ -83,17 +84,6 @@ void WriteAtOnce(const std::string& path, const std::string& text) {
   if (put != static_cast<ssize_t>(text.size())) throw std::runtime_error("cannot write " + path);
 }
 
-struct Line {
-  const char* name;
-  const char* against;
-  double subject;
-  double yardstick;
-  double target;  ///< Highest ratio.
-
-  [[nodiscard]] double Ratio() const { return subject / yardstick; }
-  [[nodiscard]] bool Met() const { return Ratio() <= target; }
-};
-
 struct Times {
   std::vector<double> write;
   std::vector<double> exported;
@@ -135,23 +125,15 @@ int Bench(const Options& options) {
   RequireWhole(file, temporary, text);
 
   const double exported = Median(times.exported);
-  const std::vector<Line> lines = {
-      {"export", "one write(2)", exported, Median(times.write), 3.0},
-      {"import", "export", Median(times.imported), exported, 5.0},
-      {"speakers", "label check", Median(times.stats), Median(times.check), 1.0},
+  const Comparison comparisons[] = {
+      {"export", exported, "one write(2)", Median(times.write), 3.0},
+      {"import", Median(times.imported), "export", exported, 5.0},
+      {"speakers", Median(times.stats), "label check", Median(times.check), 1.0},
   };
   std::printf("%d conversations of %d events, %.1f MB of text, medians of %d rounds\n",
               options.shape.conversations, options.shape.events,
               static_cast<double>(text.size()) / (1024.0 * 1024.0), options.rounds);
-  std::printf("%-10s %10s %12s  %-12s %7s %7s\n", "", "subject", "yardstick", "which is", "ratio",
-              "at most");
-  bool met = true;
-  for (const Line& line : lines) {
-    met = met && line.Met();
-    std::printf("%-10s %7.1f ms %9.1f ms  %-12s %7.3f %7.2f%s\n", line.name, line.subject,
-                line.yardstick, line.against, line.Ratio(), line.target,
-                line.Met() ? "" : "  MISSED");
-  }
+  const bool met = Report(comparisons);
   return options.check && !met ? 1 : 0;
 }
 

@@ -13,7 +13,14 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
 endif()
 
 if(PARLATE_SANITIZE)
+  set(sanitizers ${PARLATE_SANITIZE})
+  set(fatal undefined)
+  if(PARLATE_SANITIZE MATCHES undefined)
+    # Numbers of a file may be beyond every integer, and "undefined" leaves these casts out.
+    string(APPEND sanitizers ,float-cast-overflow)
+    string(APPEND fatal ,float-cast-overflow)
+  endif()
   target_compile_options(parlate_compiler INTERFACE
-    -fsanitize=${PARLATE_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=undefined)
-  target_link_options(parlate_compiler INTERFACE -fsanitize=${PARLATE_SANITIZE})
+    -fsanitize=${sanitizers} -fno-omit-frame-pointer -fno-sanitize-recover=${fatal})
+  target_link_options(parlate_compiler INTERFACE -fsanitize=${sanitizers})
 endif()

@@ -16,9 +16,6 @@ editor_packages=(
   fonts-liberation fonts-dejavu-core fontconfig
 )
 
-# Presets that build the benchmarks.
-bench_packages=(libbenchmark-dev)
-
 # Tests that read a printed page back.
 print_test_packages=(poppler-utils)
 
@@ -37,8 +34,7 @@ preset_packages() {
     core) echo "${core_packages[@]}" ;;
     fuzz) echo "${core_packages[@]}" "${fuzz_packages[@]}" ;;
     *)
-      echo "${core_packages[@]}" "${editor_packages[@]}" "${bench_packages[@]}" \
-        "${print_test_packages[@]}"
+      echo "${core_packages[@]}" "${editor_packages[@]}" "${print_test_packages[@]}"
       ;;
   esac
 }

@@ -42,9 +42,13 @@ class MissedLines final : public ImportListener {
 
   static std::string Shown(std::string_view codePageText) {
     std::string text(codePageText);
-    std::replace_if(
-        text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < ' '; }, ' ');
+    std::replace_if(text.begin(), text.end(), IsUnseen, ' ');
     return ToUtf8(text);
+  }
+  /// Control characters, and the bytes that the code page leaves open: they become such.
+  static bool IsUnseen(char c) {
+    constexpr std::string_view kOpen = "\x7F\x81\x8D\x8F\x90\x9D";
+    return static_cast<unsigned char>(c) < ' ' || kOpen.find(c) != std::string_view::npos;
   }
 
   std::string textPath_;

@@ -79,6 +79,24 @@ TEST_F(Stats, AreJsonForAProgram) {
             {"speaker": "Zoe", "lines": 1}], "totalSpeakers": 2, "totalLines": 2})"));
 }
 
+TEST_F(Stats, GiveEachLineOfASpeakerWithASemicolonARowOfItsOwn) {
+  const ActorFields speaker = {0, "B;ack"};
+  TableFields tables;
+  tables.actors = {{speaker.id, speaker.name}};
+  const std::string in = Put("in.con", FileOf(tables, {Con(0, "c", speaker,
+                                                           {Speech(1, "", speaker, "One", ""),
+                                                            Speech(2, "", speaker, "Two", "")})}));
+  const Ran ran = RunTool({"stats", in});
+  EXPECT_EQ(ran.out,
+            "Speaker  Lines\n"
+            "-------  -----\n"
+            "B;ack    1\n"
+            "B;ack    1\n"
+            "\n"
+            "Speakers: 2\n"
+            "Lines: 2\n");
+}
+
 TEST_F(Stats, FailWhenASpeakerHasNoRow) {
   const std::string in =
       Put("in.con", FileOf(HarbourTables(), {Con(0, "c", kZoe, {Speech(1, "", {}, "Who?", "")})}));

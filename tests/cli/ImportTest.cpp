@@ -81,6 +81,23 @@ TEST_F(Import, ShowsOnlyTheBeginningOfALongLine) {
                          ": not a field; the rest of the conversation is passed over\n");
 }
 
+TEST_F(Import, ShowsControlCharactersAsBlanks) {
+  const Ran ran = RunOn(
+      "[Owner: Zoe]\r\n[Name:  greeting]\r\n"
+      "a\x1B"
+      "b\x7F"
+      "c\x81"
+      "d\x8D"
+      "e\x8F"
+      "f\x90"
+      "g\x9D"
+      "h\x80"
+      "\r\n");
+  EXPECT_EQ(ran.err, text_ +
+                         ":3: a b c d e f g h\xE2\x82\xAC: not a field; the rest of the "
+                         "conversation is passed over\n");
+}
+
 TEST_F(Import, SavesEvenIfNothingMatched) {
   const Ran ran = RunOn("");
   EXPECT_EQ(ran.code, 0);

@@ -26,6 +26,8 @@ class SpeakerStats {
 
   /// Counts every conversation of the file and sorts the rows. Rows of an earlier count stay and
   /// grow, while the two totals start from 0. RuntimeError 5 for a speaker without an actor row.
+  /// A row is found again by its first column, which ends at the first ";" of the name. So each
+  /// line of a name that holds one makes a row of its own.
   void BuildSpeakerStats(const ConversationFile& file);
 
   /// By speaker as the tree sorts names: without regard to case, equal ones as they came.
@@ -38,13 +40,13 @@ class SpeakerStats {
   /// the actor's place in the table.
   void AddEvent(const EventItem& event, std::vector<std::size_t>& rowOfPlace);
   void AddSpeakerLine(std::size_t row, std::int32_t lines);
-  /// The row of exactly that name, made if there is none.
   std::size_t FindOrAddRow(const std::string& name);
+  /// The first row whose first column is exactly that name.
   [[nodiscard]] std::size_t FindSpeakerRow(const std::string& name) const;
   void SortRows();
 
   std::vector<SpeakerRow> rows_;
-  std::unordered_map<std::string, std::size_t> rowOfName_;
+  std::unordered_map<std::string, std::size_t> rowOfColumn_;  ///< The first of each first column.
 };
 
 }  // namespace parlate

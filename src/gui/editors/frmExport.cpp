@@ -1,22 +1,15 @@
 #include "editors/frmExport.h"
 
 #include <QEvent>
-#include <QFile>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 #include <utility>
 
-#include "general/Paths.h"
+#include "editors/FormLayouts.h"
 #include "interchange/ExportConversation.h"
 #include "platform/FormControls.h"
 
 namespace parlate {
-
-namespace {
-
-constexpr int kFieldWidth = 320;
-
-}  // namespace
 
 frmExport::frmExport(ConversationDefaults& defaults, FileDialogs& fileDialogs, Export exportConFile,
                      QWidget* parent)
@@ -29,8 +22,8 @@ frmExport::frmExport(ConversationDefaults& defaults, FileDialogs& fileDialogs, E
   UpdateEnabling();
   UpdateExportOptions();
 
-  connect(&txtFilename, &QLineEdit::textChanged, this, &frmExport::UpdateEnabling);
-  connect(&cmdBrowseName, &QPushButton::clicked, this, &frmExport::Browse);
+  connect(&file_.txtFilename, &QLineEdit::textChanged, this, &frmExport::UpdateEnabling);
+  connect(&file_.cmdBrowseName, &QPushButton::clicked, this, &frmExport::Browse);
   connect(&optExportDialog, &QRadioButton::toggled, this, &frmExport::UpdateExportOptions);
   connect(&cmdOK, &QPushButton::clicked, this, &frmExport::accept);
   connect(&cmdCancel, &QPushButton::clicked, this, &frmExport::reject);
@@ -39,9 +32,6 @@ frmExport::frmExport(ConversationDefaults& defaults, FileDialogs& fileDialogs, E
 void frmExport::SetUpControls() {
   NameControl(*this, "frmExport", QStringLiteral("Export Conversations"));
   setWindowTitle(QStringLiteral("Export Conversations"));
-  SetUpLabel(Label3, "Label3", QStringLiteral("Export Filename:"));
-  SetUpField(txtFilename, "txtFilename", Label3);
-  SetUpButton(cmdBrowseName, "cmdBrowseName", QStringLiteral("&Browse..."));
   NameControl(Frame2, "Frame2", QStringLiteral("Export Options"));
   Frame2.setTitle(QStringLiteral("Export Options"));
   SetUpButton(optExportDialog, "optExportDialog", QStringLiteral("Export Dialog"));
@@ -55,27 +45,16 @@ void frmExport::SetUpControls() {
 }
 
 void frmExport::BuildLayout() {
-  auto* name = new QHBoxLayout;
-  name->addWidget(&Label3);
-  name->addWidget(&txtFilename, 1);
-  name->addWidget(&cmdBrowseName);
-  txtFilename.setMinimumWidth(kFieldWidth);
-
   auto* options = new QVBoxLayout(&Frame2);
   options->addWidget(&optExportDialog);
   options->addWidget(&optExportFilenames);
   options->addWidget(&chkExportComments);
 
-  auto* buttons = new QHBoxLayout;
-  buttons->addStretch();
-  buttons->addWidget(&cmdOK);
-  buttons->addWidget(&cmdCancel);
-
   auto* form = new QVBoxLayout(this);
-  form->addLayout(name);
+  form->addLayout(file_.Layout());
   form->addWidget(&Frame2);
   form->addStretch();
-  form->addLayout(buttons);
+  form->addLayout(FootButtons(cmdOK, cmdCancel));
 }
 
 bool frmExport::event(QEvent* event) {
@@ -86,7 +65,7 @@ bool frmExport::event(QEvent* event) {
   return QDialog::event(event);
 }
 
-void frmExport::UpdateEnabling() { cmdOK.setEnabled(!txtFilename.text().isEmpty()); }
+void frmExport::UpdateEnabling() { cmdOK.setEnabled(!file_.IsEmpty()); }
 
 void frmExport::UpdateExportOptions() { chkExportComments.setEnabled(optExportDialog.isChecked()); }
 
@@ -94,18 +73,13 @@ void frmExport::Browse() {
   FileDialog dialog;
   dialog.title = "Choose Export File";
   dialog.filter = "Text Files (*.txt)|*.txt|All Files (*.*)|*.*";
-  dialog.initialFolder = GetPathOnly(defaults_.LastExportPath);
-  const std::string file = fileDialogs_.ShowSave(dialog);
-  if (file.empty()) return;
-  txtFilename.setText(QFile::decodeName(file.c_str()));
-  defaults_.LastExportPath = GetPathOnly(file);
+  file_.Browse(fileDialogs_, std::move(dialog), defaults_.LastExportPath);
 }
 
 void frmExport::accept() {
   hide();
   // Meant: a box that is greyed counts with the mark that it bears.
-  exportConFile_(QFile::encodeName(txtFilename.text()).toStdString(),
-                 optExportDialog.isChecked() ? kExportDialog : kExportFilenames,
+  exportConFile_(file_.FileName(), optExportDialog.isChecked() ? kExportDialog : kExportFilenames,
                  chkExportComments.isChecked());
   QDialog::accept();
 }

@@ -3,14 +3,13 @@
 #include <QCheckBox>
 #include <QDialog>
 #include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <cstdint>
 #include <functional>
 #include <string>
 
+#include "editors/TextFileField.h"
 #include "general/Boolean.h"
 #include "general/Prompts.h"
 #include "settings/ConversationDefaults.h"
@@ -47,9 +46,7 @@ class frmExport : public QDialog {
   Export exportConFile_;
 
   // In the order in which Tab visits them.
-  QLabel Label3{this};
-  QLineEdit txtFilename{this};
-  QPushButton cmdBrowseName{this};
+  TextFileField file_{*this, QStringLiteral("Export Filename:")};
   QGroupBox Frame2{this};
   QRadioButton optExportDialog{&Frame2};
   QRadioButton optExportFilenames{&Frame2};

@@ -4,10 +4,8 @@
 #include <utility>
 #include <vector>
 
-#include "editors/InfoPanel.h"
 #include "model/Tables.h"
 #include "widgets/CodePageText.h"
-#include "widgets/DateText.h"
 
 namespace parlate {
 
@@ -68,10 +66,7 @@ void frmFileProperties::Connect() {
 
 void frmFileProperties::ShowFields() {
   ShowInfo(panVersion, lblVersion, QString::number(conFile_.versionNum));
-  ShowInfo(panCreationDate, lblCreationDate, DateText(conFile_.CreationDate));
-  ShowInfo(panCreatedBy, lblCreatedBy, ToQString(conFile_.CreatedBy));
-  ShowInfo(panLastUpdated, lblLastUpdated, DateText(conFile_.LastUpdated));
-  ShowInfo(panLastUpdatedBy, lblLastUpdatedBy, ToQString(conFile_.LastUpdatedBy));
+  stamps_.Show(conFile_);
   txtAudioPackage.setText(ToQString(conFile_.AudioPackage));
   txtNotes.SetText(conFile_.notes);
 }

@@ -8,6 +8,7 @@
 #include <QTabWidget>
 #include <functional>
 
+#include "editors/InfoPanel.h"
 #include "model/ConversationFile.h"
 #include "model/SpeakerStats.h"
 #include "platform/QtListBox.h"
@@ -90,14 +91,7 @@ class frmFileProperties : public QDialog {
   QFrame SSFrame1{&pageInfo};
   QLabel lblVersion{&SSFrame1};
   QLabel panVersion{&SSFrame1};
-  QLabel lblCreationDate{&SSFrame1};
-  QLabel panCreationDate{&SSFrame1};
-  QLabel lblCreatedBy{&SSFrame1};
-  QLabel panCreatedBy{&SSFrame1};
-  QLabel lblLastUpdated{&SSFrame1};
-  QLabel panLastUpdated{&SSFrame1};
-  QLabel lblLastUpdatedBy{&SSFrame1};
-  QLabel panLastUpdatedBy{&SSFrame1};
+  StampPanels stamps_{SSFrame1};
 
   QPushButton cmdOK{this};
   QPushButton cmdCancel{this};

@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "editors/FormLayouts.h"
 #include "editors/InfoPanel.h"
 #include "editors/frmFileProperties.h"
 #include "platform/FormControls.h"
@@ -67,13 +68,6 @@ void frmFileProperties::SetUpInfo() {
   NameControl(SSFrame1, "SSFrame1", QStringLiteral("Info"));
   SSFrame1.setFrameShape(QFrame::StyledPanel);
   SetUpInfoPanel(panVersion, "panVersion", lblVersion, QStringLiteral("File Version:"));
-  SetUpInfoPanel(panCreationDate, "panCreationDate", lblCreationDate,
-                 QStringLiteral("Created On:"));
-  SetUpInfoPanel(panCreatedBy, "panCreatedBy", lblCreatedBy, QStringLiteral("Created By:"));
-  SetUpInfoPanel(panLastUpdated, "panLastUpdated", lblLastUpdated,
-                 QStringLiteral("Last Modified On:"));
-  SetUpInfoPanel(panLastUpdatedBy, "panLastUpdatedBy", lblLastUpdatedBy,
-                 QStringLiteral("Last Modified By:"));
 }
 
 void frmFileProperties::BuildLayout() {
@@ -85,14 +79,7 @@ void frmFileProperties::BuildLayout() {
   tabProperties.addTab(&pageMisc, QStringLiteral("Misc"));
   tabProperties.addTab(&pageStats, QStringLiteral("Stats"));
   tabProperties.addTab(&pageInfo, QStringLiteral("Info"));
-
-  auto* buttons = new QHBoxLayout;
-  buttons->addStretch();
-  buttons->addWidget(&cmdOK);
-  buttons->addWidget(&cmdCancel);
-  auto* form = new QVBoxLayout(this);
-  form->addWidget(&tabProperties, 1);
-  form->addLayout(buttons);
+  LayOutTabs(*this, tabProperties, cmdOK, cmdCancel);
 }
 
 void frmFileProperties::BuildMissions() {
@@ -137,10 +124,7 @@ void frmFileProperties::BuildInfo() {
   auto* rows = new QFormLayout(&SSFrame1);
   rows->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
   rows->addRow(&lblVersion, &panVersion);
-  rows->addRow(&lblCreationDate, &panCreationDate);
-  rows->addRow(&lblCreatedBy, &panCreatedBy);
-  rows->addRow(&lblLastUpdated, &panLastUpdated);
-  rows->addRow(&lblLastUpdatedBy, &panLastUpdatedBy);
+  stamps_.AddTo(*rows);
   auto* page = new QVBoxLayout(&pageInfo);
   page->addWidget(&SSFrame1);
   page->addStretch();

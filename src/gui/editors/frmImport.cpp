@@ -1,21 +1,14 @@
 #include "editors/frmImport.h"
 
 #include <QEvent>
-#include <QFile>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 #include <utility>
 
-#include "general/Paths.h"
+#include "editors/FormLayouts.h"
 #include "platform/FormControls.h"
 
 namespace parlate {
-
-namespace {
-
-constexpr int kFieldWidth = 320;
-
-}  // namespace
 
 frmImport::frmImport(ConversationDefaults& defaults, FileDialogs& fileDialogs, Import importConFile,
                      QWidget* parent)
@@ -27,8 +20,8 @@ frmImport::frmImport(ConversationDefaults& defaults, FileDialogs& fileDialogs, I
   BuildLayout();
   UpdateEnabling();
 
-  connect(&txtFilename, &QLineEdit::textChanged, this, &frmImport::UpdateEnabling);
-  connect(&cmdBrowseName, &QPushButton::clicked, this, &frmImport::Browse);
+  connect(&file_.txtFilename, &QLineEdit::textChanged, this, &frmImport::UpdateEnabling);
+  connect(&file_.cmdBrowseName, &QPushButton::clicked, this, &frmImport::Browse);
   connect(&cmdOK, &QPushButton::clicked, this, &frmImport::accept);
   connect(&cmdCancel, &QPushButton::clicked, this, &frmImport::reject);
 }
@@ -36,30 +29,16 @@ frmImport::frmImport(ConversationDefaults& defaults, FileDialogs& fileDialogs, I
 void frmImport::SetUpControls() {
   NameControl(*this, "frmImport", QStringLiteral("Import Conversations"));
   setWindowTitle(QStringLiteral("Import Conversations"));
-  SetUpLabel(Label3, "Label3", QStringLiteral("Import Filename:"));
-  SetUpField(txtFilename, "txtFilename", Label3);
-  SetUpButton(cmdBrowseName, "cmdBrowseName", QStringLiteral("&Browse..."));
   SetUpButton(cmdOK, "cmdOK", QStringLiteral("&Start Import"));
   SetUpButton(cmdCancel, "cmdCancel", QStringLiteral("&Cancel"));
   cmdOK.setDefault(true);
 }
 
 void frmImport::BuildLayout() {
-  auto* name = new QHBoxLayout;
-  name->addWidget(&Label3);
-  name->addWidget(&txtFilename, 1);
-  name->addWidget(&cmdBrowseName);
-  txtFilename.setMinimumWidth(kFieldWidth);
-
-  auto* buttons = new QHBoxLayout;
-  buttons->addStretch();
-  buttons->addWidget(&cmdOK);
-  buttons->addWidget(&cmdCancel);
-
   auto* form = new QVBoxLayout(this);
-  form->addLayout(name);
+  form->addLayout(file_.Layout());
   form->addStretch();
-  form->addLayout(buttons);
+  form->addLayout(FootButtons(cmdOK, cmdCancel));
 }
 
 bool frmImport::event(QEvent* event) {
@@ -67,24 +46,20 @@ bool frmImport::event(QEvent* event) {
   return QDialog::event(event);
 }
 
-void frmImport::UpdateEnabling() { cmdOK.setEnabled(!txtFilename.text().isEmpty()); }
+void frmImport::UpdateEnabling() { cmdOK.setEnabled(!file_.IsEmpty()); }
 
 void frmImport::Browse() {
   FileDialog dialog;
   dialog.title = "Choose File to Import";
   dialog.filter = "All Files (*.*)|*.*|Text Files (*.txt)|*.txt";
-  dialog.initialFolder = GetPathOnly(defaults_.LastImportPath);
   // Meant: the dialog is the one for saving. But what is chosen will be read.
   dialog.asksToReplace = false;
-  const std::string file = fileDialogs_.ShowSave(dialog);
-  if (file.empty()) return;
-  txtFilename.setText(QFile::decodeName(file.c_str()));
-  defaults_.LastImportPath = GetPathOnly(file);
+  file_.Browse(fileDialogs_, std::move(dialog), defaults_.LastImportPath);
 }
 
 void frmImport::accept() {
   hide();
-  importConFile_(QFile::encodeName(txtFilename.text()).toStdString());
+  importConFile_(file_.FileName());
   QDialog::accept();
 }
 

@@ -1,12 +1,11 @@
 #pragma once
 
 #include <QDialog>
-#include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <functional>
 #include <string>
 
+#include "editors/TextFileField.h"
 #include "general/Prompts.h"
 #include "settings/ConversationDefaults.h"
 
@@ -40,9 +39,7 @@ class frmImport : public QDialog {
   Import importConFile_;
 
   // In the order in which Tab visits them.
-  QLabel Label3{this};
-  QLineEdit txtFilename{this};
-  QPushButton cmdBrowseName{this};
+  TextFileField file_{*this, QStringLiteral("Import Filename:")};
   QPushButton cmdOK{this};
   QPushButton cmdCancel{this};
 };

@@ -76,7 +76,7 @@ void frmProperties::SetCon(Conversation& con) {
   chkCanBeInterupted.setChecked(con.bCanBeInterrupted);
   chkCannotBeInterrupted.setChecked(con.bCannotBeInterrupted);
   chkHoloCall.setChecked(con.bHoloCallCon);
-  ShowInfo();
+  stamps_.Show(con);
   CopyFlagRefs(con.flagRefs, localFlagRefs);
   flags_.Populate();
   RefreshInvokeRadius();

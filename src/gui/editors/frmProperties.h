@@ -9,6 +9,7 @@
 #include <cstdint>
 
 #include "editors/FlagListEdit.h"
+#include "editors/InfoPanel.h"
 #include "editors/TableCombo.h"
 #include "general/Prompts.h"
 #include "model/ConversationFile.h"
@@ -53,7 +54,6 @@ class frmProperties : public QDialog {
   void SetUpGeneral();
   void SetUpInvocation();
   void SetUpOptions();
-  void SetUpInfo();
   void BuildLayout();
   void BuildGeneral();
   void BuildFlags();
@@ -61,7 +61,6 @@ class frmProperties : public QDialog {
   void BuildOptions();
   void BuildInfo();
   void Connect();
-  void ShowInfo();
 
   void RefreshPropertiesOK();
   void RefreshFlagRemove();
@@ -122,14 +121,7 @@ class frmProperties : public QDialog {
   QCheckBox chkCannotBeInterrupted{&pageOptions};
 
   QWidget pageInfo{&tabProperties};
-  QLabel lblCreationDate{&pageInfo};
-  QLabel panCreationDate{&pageInfo};
-  QLabel lblCreatedBy{&pageInfo};
-  QLabel panCreatedBy{&pageInfo};
-  QLabel lblLastUpdated{&pageInfo};
-  QLabel panLastUpdated{&pageInfo};
-  QLabel lblLastUpdatedBy{&pageInfo};
-  QLabel panLastUpdatedBy{&pageInfo};
+  StampPanels stamps_{pageInfo};
 
   QPushButton cmdOK{this};
   QPushButton cmdCancel{this};

@@ -5,12 +5,10 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include "editors/InfoPanel.h"
+#include "editors/FormLayouts.h"
 #include "editors/frmProperties.h"
 #include "platform/CodePageInput.h"
 #include "platform/FormControls.h"
-#include "widgets/CodePageText.h"
-#include "widgets/DateText.h"
 
 namespace parlate {
 
@@ -42,7 +40,6 @@ void frmProperties::SetUpControls() {
   SetUpButton(cmdFlagRemove, "cmdFlagRemove", QStringLiteral("&Delete"));
   SetUpInvocation();
   SetUpOptions();
-  SetUpInfo();
   SetUpButton(cmdOK, "cmdOK", QStringLiteral("&OK"));
   SetUpButton(cmdCancel, "cmdCancel", QStringLiteral("&Cancel"));
   cmdOK.setDefault(true);
@@ -86,23 +83,6 @@ void frmProperties::SetUpOptions() {
               QStringLiteral("Absolutely CANNOT be Interrupted"));
 }
 
-void frmProperties::SetUpInfo() {
-  SetUpInfoPanel(panCreationDate, "panCreationDate", lblCreationDate,
-                 QStringLiteral("Created On:"));
-  SetUpInfoPanel(panCreatedBy, "panCreatedBy", lblCreatedBy, QStringLiteral("Created By:"));
-  SetUpInfoPanel(panLastUpdated, "panLastUpdated", lblLastUpdated,
-                 QStringLiteral("Last Modified On:"));
-  SetUpInfoPanel(panLastUpdatedBy, "panLastUpdatedBy", lblLastUpdatedBy,
-                 QStringLiteral("Last Modified By:"));
-}
-
-void frmProperties::ShowInfo() {
-  parlate::ShowInfo(panCreationDate, lblCreationDate, DateText(con_->CreationDate));
-  parlate::ShowInfo(panCreatedBy, lblCreatedBy, ToQString(con_->CreatedBy));
-  parlate::ShowInfo(panLastUpdated, lblLastUpdated, DateText(con_->LastUpdated));
-  parlate::ShowInfo(panLastUpdatedBy, lblLastUpdatedBy, ToQString(con_->LastUpdatedBy));
-}
-
 void frmProperties::BuildLayout() {
   BuildGeneral();
   BuildFlags();
@@ -115,14 +95,7 @@ void frmProperties::BuildLayout() {
   tabProperties.addTab(&pageInvoke, QStringLiteral("Invoke  "));
   tabProperties.addTab(&pageOptions, QStringLiteral("Options"));
   tabProperties.addTab(&pageInfo, QStringLiteral("Info"));
-
-  auto* buttons = new QHBoxLayout;
-  buttons->addStretch();
-  buttons->addWidget(&cmdOK);
-  buttons->addWidget(&cmdCancel);
-  auto* form = new QVBoxLayout(this);
-  form->addWidget(&tabProperties, 1);
-  form->addLayout(buttons);
+  LayOutTabs(*this, tabProperties, cmdOK, cmdCancel);
   // Left to themselves the two texts ask for more height than most of them need.
   resize(sizeHint().width() + kMoreWidth, minimumSizeHint().height());
 }
@@ -184,10 +157,7 @@ void frmProperties::BuildOptions() {
 void frmProperties::BuildInfo() {
   auto* page = new QFormLayout(&pageInfo);
   page->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-  page->addRow(&lblCreationDate, &panCreationDate);
-  page->addRow(&lblCreatedBy, &panCreatedBy);
-  page->addRow(&lblLastUpdated, &panLastUpdated);
-  page->addRow(&lblLastUpdatedBy, &panLastUpdatedBy);
+  stamps_.AddTo(*page);
 }
 
 }  // namespace parlate

@@ -135,6 +135,8 @@ class frmConvList : public QMainWindow,
   void ShowFind();
   void FindQuickly();
   bool FindBoxEvent(QEvent* event);
+  /// The next search starts anew, if the last one was that of the quick box.
+  void LeaveQuickSearch();
   void FindBoxWindowLeft();
 
   // Splitter

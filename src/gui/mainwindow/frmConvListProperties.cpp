@@ -70,9 +70,7 @@ void frmConvList::FocusFindBox() {
 
 void frmConvList::ShowFind() {
   if (!find_) find_ = std::make_unique<frmFind>(shell_, this);
-  // The quick box is left, and where it was is no place for the dialog to go on.
-  if (searchedQuickly_) shell_.ResetSearch();
-  searchedQuickly_ = false;
+  LeaveQuickSearch();
   find_->exec();
 }
 
@@ -81,13 +79,19 @@ void frmConvList::FindQuickly() {
   if (!shell_.FindText(cboFind_, false, false, false, 0)) shell_.ResetSearch();
 }
 
+void frmConvList::LeaveQuickSearch() {
+  // The dialog keeps its place until the window goes, whoever had the focus since.
+  if (searchedQuickly_) shell_.ResetSearch();
+  searchedQuickly_ = false;
+}
+
 void frmConvList::FindBoxWindowLeft() {
   // From another program, and from what the search itself shows, the focus comes back to the box.
   const QWidget* active = QApplication::activeWindow();
   if (active == nullptr || active == this || active == find_.get()) return;
   const bool asks = qobject_cast<const QMessageBox*>(active) != nullptr ||
                     qobject_cast<const QFileDialog*>(active) != nullptr;
-  if (!asks) shell_.ResetSearch();
+  if (!asks) LeaveQuickSearch();
 }
 
 bool frmConvList::FindBoxEvent(QEvent* event) {
@@ -103,7 +107,7 @@ bool frmConvList::FindBoxEvent(QEvent* event) {
       QMetaObject::invokeMethod(this, &frmConvList::FindBoxWindowLeft, Qt::QueuedConnection);
       return false;
     default:
-      shell_.ResetSearch();
+      LeaveQuickSearch();
       return false;
   }
 }

@@ -6,8 +6,16 @@
 
 namespace parlate {
 
+namespace {
+
+constexpr double kSecondsOfDay = 86400;
+// The years 100 to 9999 lie well within. A file may hold any number as a date.
+constexpr double kMostDays = 3e6;
+
+}  // namespace
+
 QString DateText(Date date) {
-  constexpr double kSecondsOfDay = 86400;
+  if (!std::isfinite(date) || std::abs(date) >= kMostDays) return {};
   // Ahead of the first day the whole part counts backwards, and the time of day still forwards.
   const double days = std::trunc(date);
   const auto seconds = static_cast<qint64>(std::llround(std::abs(date - days) * kSecondsOfDay));

@@ -154,6 +154,31 @@ TEST_F(SpeakerStatsTest, ASecondCountGrowsTheRowsAndFindsNoNewSpeakers) {
   EXPECT_EQ(stats_.totalSpeakers, 1);
 }
 
+TEST_F(SpeakerStatsTest, ANameWithASemicolonIsNeverFoundAndMakesARowForEachLine) {
+  TestWorkspace::AddRows(kActorTable, {{40, "B;ack"}});
+  for (const std::int32_t id : {40, 7, 40, 7}) AddSpeech(id);
+  EXPECT_THAT(Build(), ElementsAre("B;ack:1", "B;ack:1", "Zoe:2"));
+  EXPECT_EQ(stats_.totalSpeakers, 3);
+  EXPECT_EQ(stats_.totalLines, 4);
+  EXPECT_THAT(Build(), ElementsAre("B;ack:1", "B;ack:1", "B;ack:1", "B;ack:1", "Zoe:4"));
+  EXPECT_EQ(stats_.totalSpeakers, 2) << "the new rows of the second count";
+  EXPECT_EQ(stats_.totalLines, 4);
+}
+
+TEST_F(SpeakerStatsTest, ANameFindsTheFirstRowWhoseFirstColumnItIsAndTakesItOver) {
+  TestWorkspace::AddRows(kActorTable, {{40, "B;ack"}, {41, "B"}});
+  for (const std::int32_t id : {40, 40, 41, 40, 41}) AddSpeech(id);
+  EXPECT_THAT(Build(), ElementsAre("B:3", "B;ack:1", "B;ack:1"));
+  EXPECT_EQ(stats_.totalSpeakers, 3);
+  EXPECT_EQ(stats_.totalLines, 5);
+}
+
+TEST_F(SpeakerStatsTest, RowsAreSortedByTheirFirstColumnAlone) {
+  TestWorkspace::AddRows(kActorTable, {{40, "b;z"}, {41, "B;a"}, {42, "B-"}});
+  for (const std::int32_t id : {42, 40, 41}) AddSpeech(id);
+  EXPECT_THAT(Build(), ElementsAre("b;z:1", "B;a:1", "B-:1"));
+}
+
 TEST_F(SpeakerStatsTest, ASpeakerWithoutAnActorRowIsARuntimeError) {
   AddSpeech(7);
   AddSpeech(-1);

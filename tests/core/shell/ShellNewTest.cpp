@@ -78,16 +78,26 @@ TEST_F(ShellNew, ANewFileAfterAReadOnlyOneCanBeSaved) {
 }
 
 TEST_F(ShellNew, ANewFileTakesTheEventEditorAway) {
-  const int before = program_.view.editorUnloads;
-  EXPECT_FALSE(Window().NewConFile());
-  EXPECT_GT(program_.view.editorUnloads, before);
+  program_.view.editorVisible = true;
+  program_.view.answerFileProperties = [this] {
+    EXPECT_EQ(program_.view.editorUnloads, 2) << "with the old file, and for the new one";
+    EXPECT_FALSE(program_.view.editorVisible);
+    Window().SetModified(true, nullptr);
+  };
+  EXPECT_TRUE(Window().NewConFile());
+  EXPECT_EQ(program_.view.editorUnloads, 2);
 }
 
 TEST_F(ShellNew, CommandsFollowANewFile) {
-  AnswerFilePropertiesWithOk();
-  const int before = program_.view.commandStateUpdates;
+  int& updates = program_.view.commandStateUpdates;
+  updates = 0;
+  program_.view.answerFileProperties = [&] {
+    EXPECT_EQ(updates, 2) << "with the old file, and for the new one";
+    updates = 0;
+    Window().SetModified(true, nullptr);
+  };
   EXPECT_TRUE(Window().NewConFile());
-  EXPECT_GT(program_.view.commandStateUpdates, before);
+  EXPECT_EQ(updates, 1) << "what was entered in the dialog counts, too";
 }
 
 class ShellAdd : public ShellTest {
@@ -121,8 +131,14 @@ TEST_F(ShellAdd, ANewConversationComesToItsPropertiesWithTheDefaults) {
   EXPECT_THAT(program_.view.propertyTabs, ElementsAre(0));
 }
 
-TEST_F(ShellAdd, ACancelledConversationGivesItsKeyBack) {
+TEST_F(ShellAdd, ACancelledConversationGivesItsKeyBackAndTheCommandsFollow) {
+  int& updates = program_.view.commandStateUpdates;
+  program_.view.answerProperties = [&updates](Conversation&) {
+    updates = 0;
+    return 1;
+  };
   Window().AddConversation();
+  EXPECT_EQ(updates, 1);
   EXPECT_EQ(Window().GetConFile()->CurrentKey(), 3);
   EXPECT_EQ(Window().GetConFile()->Conversations.Count(), 3U);
   EXPECT_FALSE(Window().GetConFile()->IsModified());

@@ -6,6 +6,7 @@
 
 #include "editors/frmExport.h"
 #include "editors/frmImport.h"
+#include "platform/FormKeys.h"
 #include "platform/Modal.h"
 #include "support/ScriptedPrompts.h"
 
@@ -72,11 +73,8 @@ TEST_F(FrmExportTest, EveryCaptionAndDefaultIsTheRightOne) {
 TEST_F(FrmExportTest, TabGoesThroughTheFormFromTopToBottom) {
   QTest::keyClicks(&Name(), "x");
   Name().setFocus();
-  for (const char* name : {"cmdBrowseName", "optExportDialog", "chkExportComments", "cmdOK",
-                           "cmdCancel", "txtFilename"}) {
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    EXPECT_EQ(QApplication::focusWidget()->objectName(), name);
-  }
+  ExpectTabVisits({"cmdBrowseName", "optExportDialog", "chkExportComments", "cmdOK", "cmdCancel",
+                   "txtFilename"});
 }
 
 TEST_F(FrmExportTest, StartIsEnabledOnlyWithAFileName) {
@@ -87,6 +85,22 @@ TEST_F(FrmExportTest, StartIsEnabledOnlyWithAFileName) {
   EXPECT_FALSE(IsEnabled("cmdOK"));
   QTest::keyClick(&Name(), Qt::Key_Return);
   EXPECT_FALSE(Form().isHidden());
+}
+
+TEST_F(FrmExportTest, ComingBackToTheFormTestsItsControlsAnew) {
+  Form();
+  {
+    // What tells the form of a change is kept from it.
+    const QSignalBlocker name(&Name());
+    const QSignalBlocker dialog(&The<QRadioButton>("optExportDialog"));
+    Name().setText("a");
+    The<QRadioButton>("optExportFilenames").setChecked(true);
+  }
+  EXPECT_FALSE(IsEnabled("cmdOK"));
+  EXPECT_TRUE(IsEnabled("chkExportComments"));
+  LeaveAndComeBack(Form());
+  EXPECT_TRUE(IsEnabled("cmdOK"));
+  EXPECT_FALSE(IsEnabled("chkExportComments"));
 }
 
 TEST_F(FrmExportTest, CommentsAreOfferedWithTheDialogAlone) {
@@ -197,10 +211,7 @@ TEST_F(FrmImportTest, EveryCaptionIsTheRightOne) {
 TEST_F(FrmImportTest, TabGoesThroughTheFormFromTopToBottom) {
   QTest::keyClicks(&Name(), "x");
   Name().setFocus();
-  for (const char* name : {"cmdBrowseName", "cmdOK", "cmdCancel", "txtFilename"}) {
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    EXPECT_EQ(QApplication::focusWidget()->objectName(), name);
-  }
+  ExpectTabVisits({"cmdBrowseName", "cmdOK", "cmdCancel", "txtFilename"});
 }
 
 TEST_F(FrmImportTest, StartIsEnabledOnlyWithAFileName) {
@@ -209,6 +220,16 @@ TEST_F(FrmImportTest, StartIsEnabledOnlyWithAFileName) {
   EXPECT_TRUE(The<QPushButton>("cmdOK").isEnabled());
   QTest::keyClick(&Name(), Qt::Key_Backspace);
   EXPECT_FALSE(The<QPushButton>("cmdOK").isEnabled());
+}
+
+TEST_F(FrmImportTest, ComingBackToTheFormTestsTheNameAnew) {
+  {
+    const QSignalBlocker name(&Name());
+    Name().setText("a");
+  }
+  EXPECT_FALSE(The<QPushButton>("cmdOK").isEnabled());
+  LeaveAndComeBack(Form());
+  EXPECT_TRUE(The<QPushButton>("cmdOK").isEnabled());
 }
 
 TEST_F(FrmImportTest, StartHidesTheFormAndImports) {

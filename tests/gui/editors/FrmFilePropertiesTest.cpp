@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "editors/frmFileProperties.h"
+#include "platform/FormKeys.h"
 #include "platform/Modal.h"
 #include "support/FakeControls.h"
 #include "support/TestWorkspace.h"
@@ -327,6 +328,23 @@ TEST_F(FrmFilePropertiesTest, ExportDoesNothing) {
   Click("cmdExport");
   EXPECT_TRUE(Form().isVisible());
   EXPECT_THAT(StatRows(), ElementsAre("Zoe;1"));
+}
+
+TEST_F(FrmFilePropertiesTest, TabGoesThroughEachTabFromTopToBottom) {
+  ClickRow(Available(), 0);
+  ClickRow(Chosen(), 0);
+  ExpectTabVisits({"cmdAdd", "cmdAddAll", "cmdRemove", "cmdRemoveAll", "lstMissionsAvailable",
+                   "cmdOK", "cmdCancel", "qt_tabwidget_tabbar", "lstMissions"});
+  GoTo(kMisc);
+  ExpectTabVisits({"txtNotes", "cmdOK", "cmdCancel", "qt_tabwidget_tabbar", "txtAudioPackage"});
+  GoTo(kStats);
+  The<QWidget>("lstStats").setFocus();
+  ExpectTabVisits(
+      {"cmdPrint", "cmdExport", "cmdOK", "cmdCancel", "qt_tabwidget_tabbar", "lstStats"});
+  GoTo(kInfo);
+  The<QWidget>("panVersion").setFocus();
+  ExpectTabVisits({"panCreationDate", "panCreatedBy", "panLastUpdated", "panLastUpdatedBy", "cmdOK",
+                   "cmdCancel", "qt_tabwidget_tabbar", "panVersion"});
 }
 
 TEST_F(FrmFilePropertiesTest, ItGoesFromWhicheverTabIsShown) {

@@ -9,7 +9,9 @@
 #include <QToolBar>
 
 #include "mainwindow/WindowFixture.h"
+#include "platform/FormKeys.h"
 #include "platform/Modal.h"
+#include "platform/PaintCounter.h"
 #include "support/ConversationScript.h"
 #include "support/FileBytes.h"
 
@@ -122,6 +124,26 @@ TEST_F(FindTest, EveryCaptionAndDefaultIsTheRightOne) {
     EXPECT_EQ(events.ItemData(1), 0);
     EXPECT_EQ(events.List(19), "End");
     EXPECT_EQ(events.ItemData(19), 18);
+  });
+}
+
+TEST_F(FindTest, TabGoesThroughTheDialogFromTopToBottom) {
+  InDialog([](FindUser& user) {
+    user.Type("a");
+    ExpectTabVisits({"cboEvents", "chkMatchCase", "chkWholeWord", "optConAll", "cmdFind",
+                     "cmdCancel", "cboFind"});
+  });
+}
+
+TEST_F(FindTest, ComingToTheDialogPutsTheFocusOnTheTextWithAllOfItSelected) {
+  InDialog([](FindUser& user) {
+    EXPECT_TRUE(user.Text().hasFocus());
+    user.Type("harbour");
+    user.The<QWidget>("chkMatchCase").setFocus();
+  });
+  InDialog([](FindUser& user) {
+    EXPECT_TRUE(user.Text().hasFocus());
+    EXPECT_EQ(user.Text().lineEdit()->selectedText(), "harbour");
   });
 }
 
@@ -279,6 +301,62 @@ TEST_F(FindTest, CtrlFKeepsThePositionOfTheDialog) {
   ExpectAt(0, 2);
 }
 
+TEST_F(FindTest, TheDialogsPositionOutlivesTheFocusOfTheQuickBox) {
+  program_.ClickNode("C0");
+  // The key puts the focus into the box, and there it is again once the dialog is closed.
+  const auto ctrlF = [this](const std::function<void(FindUser&)>& work) {
+    WhenFormShows("frmFind", [&](QWidget& form) {
+      FindUser user(form);
+      work(user);
+      user.Click("cmdCancel");
+    });
+    program_.Press(Qt::Key_F, Qt::ControlModifier);
+    program_.Activate();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return Box().hasFocus(); }));
+  };
+  ctrlF([this](FindUser& user) {
+    user.Type("h");
+    user.Find();
+    ExpectAt(0, 0);
+  });
+  program_.ClickRow(0);
+  ASSERT_FALSE(Box().hasFocus());
+  ctrlF([this](FindUser& user) {
+    EXPECT_EQ(user.Button().text(), "Find Next");
+    user.Find();
+    ExpectAt(0, 2);
+  });
+  program_.ClickNode("C2");
+  ASSERT_FALSE(Box().hasFocus());
+  ctrlF([this](FindUser& user) {
+    user.Find();
+    ExpectAt(0, 0);
+  });
+}
+
+TEST_F(FindTest, AnotherWindowOfTheProgramLeavesTheDialogsPosition) {
+  InDialog([this](FindUser& user) {
+    user.Type("h");
+    user.Find();
+    ExpectAt(0, 0);
+  });
+  program_.ClickRow(0);
+  Box().setFocus();
+  bool came = false;
+  WhenFormShows("frmProperties", [&came](QWidget& form) {
+    // Which window has the focus is looked at a moment later.
+    QCoreApplication::processEvents();
+    came = true;
+    QTest::mouseClick(&ControlNamed<QPushButton>(form, "cmdCancel"), Qt::LeftButton);
+  });
+  program_.Choose("mnuConProperties");
+  ASSERT_TRUE(came);
+  InDialog([this](FindUser& user) {
+    user.Find();
+    ExpectAt(0, 2);
+  });
+}
+
 TEST_F(FindTest, TheDialogDoesNotGoOnWhereTheQuickBoxWas) {
   InDialog([](FindUser&) {});
   program_.ClickNode("C0");
@@ -402,18 +480,36 @@ TEST_F(FindTest, WithoutANodeThereIsNothingToFind) {
   EXPECT_FALSE(Box().isEnabled());
 }
 
-TEST_F(FindTest, ALongSearchLetsTheWindowPaint) {
-  frmProgress progress;
-  QWidget window;
-  window.resize(50, 50);
-  window.show();
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
-  int done = 0;
-  QMetaObject::invokeMethod(
-      &window, [&done] { ++done; }, Qt::QueuedConnection);
-  progress.LetRepaint();
-  EXPECT_EQ(done, 1);
-  EXPECT_TRUE(progress.isHidden());
+class LongSearch : public WindowTest {
+ protected:
+  static constexpr std::int32_t kEvents = 9000;
+
+  /// A conversation (key 0) of many comments.
+  std::string PutLongFile() {
+    std::vector<EventFields> comments;
+    for (std::int32_t key = 1; key <= kEvents; ++key) comments.push_back(Comment(key, "", "none"));
+    WriteBytes(folder.File("long.con"), FileOf(HarbourTables(), {Con(0, "long", kZoe, comments)}));
+    return folder.File("long.con");
+  }
+};
+
+TEST_F(LongSearch, LetsTheWindowPaintMeanwhile) {
+  RunningProgram program;
+  ASSERT_TRUE(program.Start(PutLongFile()));
+  program.ClickNode("C0");
+  auto& box = program.Find<QtComboBox>("cboFind");
+  box.setFocus();
+  TypeText(box, "absent");
+  QWidget& rows = *program.Events().viewport();
+  QTest::qWait(50);
+  const PaintCounter counter(rows);
+  rows.update();
+  program.messages.Expect(Answer::Ok);
+  QTest::keyClick(&box, Qt::Key_Return);
+  // The answer of the box came at once, so all that was painted was painted during the search.
+  ASSERT_EQ(program.messages.shown.size(), 1U);
+  EXPECT_GE(counter.paints, 1);
+  EXPECT_TRUE(program.Close());
 }
 
 }  // namespace

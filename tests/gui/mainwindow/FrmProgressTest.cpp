@@ -2,28 +2,16 @@
 #include <gtest/gtest.h>
 
 #include <QElapsedTimer>
-#include <QPaintEvent>
 #include <QTest>
 #include <QWindow>
 
 #include "mainwindow/frmProgress.h"
 #include "platform/Modal.h"
+#include "platform/PaintCounter.h"
 #include "platform/TwipsConversion.h"
 
 namespace parlate {
 namespace {
-
-/// Counts how often a widget is painted.
-class PaintCounter : public QObject {
- public:
-  explicit PaintCounter(QWidget& watched) { watched.installEventFilter(this); }
-  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
-    if (event->type() == QEvent::Paint) ++paints;
-    return false;
-  }
-
-  int paints = 0;
-};
 
 class FrmProgressTest : public ::testing::Test {
  protected:
@@ -180,6 +168,17 @@ TEST_F(FrmProgressTest, OtherWindowsRepaintBetweenTheSteps) {
   other.update();
   progress_.Step("text", 1);
   EXPECT_EQ(counter.paints, 1);
+}
+
+TEST_F(FrmProgressTest, AWalkThatShowsNoProgressLetsOtherWindowsRepaint) {
+  QWidget other;
+  other.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&other));
+  const PaintCounter counter(other);
+  other.update();
+  progress_.LetRepaint();
+  EXPECT_EQ(counter.paints, 1);
+  EXPECT_TRUE(progress_.isHidden());
 }
 
 /// Asks on close as the main window does.

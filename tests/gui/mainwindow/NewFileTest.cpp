@@ -93,6 +93,40 @@ TEST_F(Harbour, ANewOwnerMovesTheConversationInTheTree) {
   Leave();
 }
 
+TEST_F(Harbour, ANewOwnerNameAndFlagsAtOnceShowInTheTreeAndMarkTheFile) {
+  program_.ClickNode("C0");
+  WhenFormShows("frmProperties", [](QWidget& form) {
+    auto& name = ControlNamed<QLineEdit>(form, "txtName");
+    name.selectAll();
+    QTest::keyClicks(&name, "Anchor");
+    auto& owner = ControlNamed<QtComboBox>(form, "cboNPC");
+    owner.setFocus();
+    owner.lineEdit()->selectAll();
+    QTest::keyClicks(&owner, "Alex");
+    GoToTab(form, 1);
+    auto& flags = ControlNamed<MultiColumnList>(form, "lstFlags");
+    QTest::mouseClick(flags.viewport(), Qt::LeftButton, {}, flags.RowRect(0).center());
+    PressButton(form, "cmdFlagRemove");
+    QTest::mouseDClick(flags.viewport(), Qt::LeftButton, {}, flags.RowRect(0).center());
+    PressButton(form, "cmdOK");
+  });
+  program_.Choose("mnuConProperties");
+  const ConversationTree& tree = program_.shell().tvCons();
+  EXPECT_EQ(tree.FindNode("C0")->Text(), "Anchor");
+  EXPECT_EQ(tree.FindNode("C0")->parent, tree.FindNode("A0"));
+  EXPECT_EQ(tree.FindNode("F2,0"), nullptr);
+  EXPECT_EQ(tree.FindNode("F3,0")->Text(), "Lamp = True");
+  EXPECT_EQ(tree.FindNode("F3,0")->parent, tree.FindNode("C0"));
+  EXPECT_EQ(tree.SelectedItem(), tree.FindNode("C0"));
+  EXPECT_EQ(program_.Find<QLabel>("lblTitle(1)").text(), " Events:");
+  EXPECT_EQ(program_.Events().Rows().ListCount(), 5U) << "those of the conversation";
+  EXPECT_EQ(ConOf(0).NPCID, 0);
+  EXPECT_EQ(ConOf(0).LastUpdatedBy, "Tester");
+  EXPECT_TRUE(program_.shell().GetConFile()->IsModified());
+  EXPECT_TRUE(program_.Enabled("mnuFileSave"));
+  Leave();
+}
+
 TEST_F(Harbour, EveryWayToThePropertiesOpensTheRightTab) {
   const auto tabOf = [this](const char* command) {
     int tab = -1;

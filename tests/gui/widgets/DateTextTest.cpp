@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QLocale>
+#include <limits>
 
 #include "widgets/DateText.h"
 
@@ -33,6 +34,19 @@ TEST_F(DateTextTest, AheadOfTheFirstDayTheTimeStillRunsForwards) {
 
 TEST_F(DateTextTest, AMomentIsRoundedToTheSecondAndNotCutOff) {
   EXPECT_EQ(DateText(MakeDate(2026, 3, 5, 14, 30) - 1e-9), "05.03.26 14:30");
+}
+
+TEST_F(DateTextTest, ANumberThatIsNoDateShowsAsNothing) {
+  constexpr double kInfinity = std::numeric_limits<double>::infinity();
+  for (const double date : {1e300, -1e300, 1e19, 3e6, -3e6, kInfinity, -kInfinity,
+                            std::numeric_limits<double>::quiet_NaN()}) {
+    EXPECT_EQ(DateText(date), "") << date;
+  }
+}
+
+TEST_F(DateTextTest, TheFirstAndTheLastDayOfTheCalendarAreShown) {
+  EXPECT_EQ(DateText(-657434), "01.01.00 00:00") << "of the year 100";
+  EXPECT_EQ(DateText(2958465), "31.12.99 00:00") << "of the year 9999";
 }
 
 }  // namespace
