@@ -316,6 +316,16 @@ TEST_F(FrmFilePropertiesTest, ComingBackToStatsDoublesEveryCount) {
   EXPECT_THAT(StatRows(), ElementsAre("MKHollis;4", "Zoe;2"));
 }
 
+TEST_F(FrmFilePropertiesTest, ASpeakerWithASemicolonHasARowForEachLineAndItsCountIsOutOfSight) {
+  space_.AddRows(kActorTable, {{5, "B;ack"}});
+  Conversation& con = AddCon(0);
+  AddSpeech(con, 5);
+  AddSpeech(con, 5);
+  GoTo(kStats);
+  EXPECT_THAT(StatRows(), ElementsAre("B;ack;1", "B;ack;1"));
+  EXPECT_EQ(The<MultiColumnList>("lstStats").ColumnCount(), 2) << "the count is a third field";
+}
+
 TEST_F(FrmFilePropertiesTest, AFileWithoutEventsHasNoStats) {
   AddCon(0);
   GoTo(kStats);
