@@ -3,25 +3,17 @@
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
-#include <limits>
 
 #include "editors/frmChoiceEdit.h"
-#include "platform/CodePageInput.h"
 #include "platform/FontSetup.h"
 #include "platform/FormControls.h"
+#include "platform/TextField.h"
 
 namespace parlate {
 
 namespace {
 
 constexpr int kFieldWidth = 320;
-
-/// A line for any text of a file, however long.
-void SetUpTextLine(QLineEdit& line, const char* name, QLabel& label) {
-  SetUpField(line, name, label);
-  line.setMaxLength(std::numeric_limits<int>::max());
-  KeepToCodePage(line);
-}
 
 }  // namespace
 
@@ -43,14 +35,16 @@ void frmChoiceEdit::SetUpControls() {
 
 void frmChoiceEdit::SetUpGeneralPage() {
   SetUpLabel(Label1, "Label1", QStringLiteral("Choice Text:"));
-  SetUpTextLine(txtChoice, "txtChoice", Label1);
+  SetUpField(txtChoice, "txtChoice", Label1);
+  SetUpTextLine(txtChoice);
   SetUpLabel(Label15, "Label15", QStringLiteral("Jump to Label:"));
   SetUpField(cboJumpLabel, "cboJumpLabel", Label15);
   NameControl(frmShowChoice, "frmShowChoice", QStringLiteral("Speech"));
   SetUpButton(chkShowChoice, "chkShowChoice",
               QStringLiteral("Display Choice as Speech When Selected"));
   SetUpLabel(Label20, "Label20", QStringLiteral("Audio File:"));
-  SetUpTextLine(txtAudioFile, "txtAudioFile", Label20);
+  SetUpField(txtAudioFile, "txtAudioFile", Label20);
+  SetUpTextLine(txtAudioFile);
   SetUpButton(cmdSpeechAudio, "cmdSpeechAudio", QStringLiteral("..."));
   cmdSpeechAudio.setAccessibleName(QStringLiteral("Choose Audio File"));
   SetUpButton(cmdPlayAudio, "cmdPlayAudio", QStringLiteral("&Play"));
