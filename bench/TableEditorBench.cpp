@@ -21,6 +21,7 @@
 #include "bench/Generator.h"
 #include "bench/Measure.h"
 #include "mainwindow/frmConvList.h"
+#include "model/TableCombos.h"
 #include "model/Tables.h"
 
 namespace {
@@ -95,7 +96,7 @@ class Program {
       });
       table.close();
     });
-    window_.EditTableDialog(tableType);
+    EditTableDialog(tableType);
     if (before - GetTable(tableType)->Count() < kRows) {
       throw std::runtime_error("an unused row was left behind: " + yes_.last);
     }
