@@ -15,6 +15,11 @@ namespace {
 
 constexpr int kFieldWidth = 320;
 
+/// Three dots need less room than the toolkit gives a button, which the field beside it can use.
+void Narrow(QPushButton& button) {
+  button.setMaximumWidth(button.fontMetrics().horizontalAdvance(QStringLiteral("xx...xx")));
+}
+
 }  // namespace
 
 void frmChoiceEdit::SetUpControls() {
@@ -47,6 +52,7 @@ void frmChoiceEdit::SetUpGeneralPage() {
   SetUpTextLine(txtAudioFile);
   SetUpButton(cmdSpeechAudio, "cmdSpeechAudio", QStringLiteral("..."));
   cmdSpeechAudio.setAccessibleName(QStringLiteral("Choose Audio File"));
+  Narrow(cmdSpeechAudio);
   SetUpButton(cmdPlayAudio, "cmdPlayAudio", QStringLiteral("&Play"));
 }
 
@@ -69,6 +75,7 @@ void frmChoiceEdit::SetUpSkillsPage() {
   SetUpButton(cmdEditSkills, "cmdEditSkills", QStringLiteral("..."));
   cmdEditSkills.setAccessibleName(QStringLiteral("Edit Skills"));
   cmdEditSkills.setToolTip(QStringLiteral("Edit Skills"));
+  Narrow(cmdEditSkills);
   SetUpLabel(lblSkillLevel, "lblSkillLevel", QStringLiteral("at Level:"));
   SetUpField(cboSkillLevels, "cboSkillLevels", lblSkillLevel);
   cboSkillLevels.MakeListOnly();

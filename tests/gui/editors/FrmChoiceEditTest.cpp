@@ -102,6 +102,7 @@ TEST_F(FrmChoiceEditTest, AnExistingChoiceShowsAllItsFields) {
     EXPECT_EQ(TextOf(form, "txtChoice").cursorPosition(), 3);
     EXPECT_EQ(Combo(form, "cboJumpLabel").Text(), "Start");
     EXPECT_EQ(TextOf(form, "txtAudioFile").text(), "yes.mp3");
+    EXPECT_EQ(TextOf(form, "txtAudioFile").cursorPosition(), 0) << "a long name from its beginning";
     EXPECT_TRUE(IsEnabled(form, "cmdPlayAudio"));
     EXPECT_TRUE(Box(form, "chkShowChoice").isChecked());
     EXPECT_TRUE(Box(form, "chkSkill").isChecked());
