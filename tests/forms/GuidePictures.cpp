@@ -52,6 +52,17 @@ void Click(QWidget& form, const char* name) {
   QTest::mouseClick(&The<QWidget>(form, name), Qt::LeftButton);
 }
 
+void ClickRow(QListWidget& list, int row, Qt::KeyboardModifiers modifiers = {}) {
+  QTest::mouseClick(list.viewport(), Qt::LeftButton, modifiers,
+                    list.visualItemRect(list.item(row)).center());
+}
+
+void SelectLast(QWidget& form, const char* name) {
+  auto& list = The<MultiColumnList>(form, name);
+  const int last = static_cast<int>(list.Rows().ListCount()) - 1;
+  QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.RowRect(last).center());
+}
+
 void Settle(QWidget& form) {
   form.activateWindow();
   if (!QTest::qWaitForWindowActive(&form)) throw std::runtime_error("a window does not show");
@@ -74,17 +85,29 @@ struct EventPicture {
   const char* name;
   std::int32_t conversation;
   std::int32_t event;
+  const char* list = nullptr;  ///< In which the last row is selected.
 };
 
 /// One event of each type, by the keys of the example.
-constexpr EventPicture kEventPictures[] = {
-    {"event-speech", 0, 3},      {"event-choice", 0, 4},          {"event-set-flags", 11, 15},
-    {"event-check-flags", 8, 3}, {"event-check-object", 10, 1},   {"event-transfer-object", 10, 4},
-    {"event-move-camera", 9, 2}, {"event-play-animation", 10, 5}, {"event-trade", 8, 2},
-    {"event-jump", 2, 18},       {"event-random-label", 14, 1},   {"event-trigger", 10, 7},
-    {"event-goal", 9, 11},       {"event-note", 0, 17},           {"event-skill-points", 10, 10},
-    {"event-credits", 2, 6},     {"event-check-persona", 8, 8},   {"event-comment", 0, 1},
-    {"event-end", 0, 21}};
+constexpr EventPicture kEventPictures[] = {{"event-speech", 0, 3},
+                                           {"event-choice", 0, 4, "lstChoices"},
+                                           {"event-set-flags", 11, 15, "lstSetFlags"},
+                                           {"event-check-flags", 11, 6},
+                                           {"event-check-object", 10, 1},
+                                           {"event-transfer-object", 7, 26},
+                                           {"event-move-camera", 9, 2},
+                                           {"event-play-animation", 10, 5},
+                                           {"event-trade", 8, 2},
+                                           {"event-jump", 2, 18},
+                                           {"event-random-label", 14, 1},
+                                           {"event-trigger", 10, 7},
+                                           {"event-goal", 9, 11},
+                                           {"event-note", 0, 17},
+                                           {"event-skill-points", 13, 12},
+                                           {"event-credits", 8, 10},
+                                           {"event-check-persona", 7, 33},
+                                           {"event-comment", 3, 13},
+                                           {"event-end", 0, 21}};
 
 class Guide {
  public:
@@ -96,7 +119,9 @@ class Guide {
 
   void MakeAll() {
     for (const EventPicture& picture : kEventPictures) {
-      Save(Open(picture.conversation, picture.event), picture.name);
+      QWidget& editor = Open(picture.conversation, picture.event);
+      if (picture.list != nullptr) SelectLast(editor, picture.list);
+      Save(editor, picture.name);
     }
     Choices();
     Flags();
@@ -128,8 +153,7 @@ class Guide {
 
   void Choices() {
     QWidget& editor = Open(11, 4);
-    auto& list = The<MultiColumnList>(editor, "lstChoices");
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.RowRect(2).center());
+    SelectLast(editor, "lstChoices");
     WhenShown("frmChoiceEdit", [this](QWidget& form) {
       Save(form, "dialog-choice-edit");
       auto& tabs = The<QTabWidget>(form, "tabChoice");
@@ -139,7 +163,7 @@ class Guide {
     });
     Click(editor, "cmdChoiceEdit");
     QWidget& other = Open(0, 4);
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.RowRect(2).center());
+    SelectLast(other, "lstChoices");
     WhenShown("frmChoiceEdit", [this](QWidget& form) {
       The<QTabWidget>(form, "tabChoice").setCurrentIndex(2);
       QCoreApplication::processEvents();
@@ -152,7 +176,8 @@ class Guide {
     QWidget& editor = Open(11, 15);
     WhenShown("frmFlagList", [this](QWidget& form) {
       auto& flags = The<QtListBox>(form, "lstFlags");
-      for (const int row : {2, 3}) flags.SetSelected(row, true);
+      ClickRow(flags, 2);
+      ClickRow(flags, 3, Qt::ControlModifier);
       The<QLineEdit>(form, "txtExpiration").setText(QStringLiteral("2"));
       Save(form, "dialog-flag-list");
     });
@@ -162,8 +187,13 @@ class Guide {
   void Camera() {
     QWidget& editor = Open(9, 2);
     The<QRadioButton>(editor, "optCameraSpecific").click();
-    WhenShown("frmCameraProperties",
-              [this](QWidget& form) { Save(form, "dialog-camera-properties"); });
+    WhenShown("frmCameraProperties", [this](QWidget& form) {
+      const std::pair<const char*, const char*> fields[] = {
+          {"txtCamDistance", "1.5"}, {"txtCamCenter", "0.5"}, {"txtCamHeight", "0.8"},
+          {"Text7", "-10"},          {"Text8", "45"},         {"Text9", "0"}};
+      for (const auto& [name, text] : fields) The<QLineEdit>(form, name).setText(text);
+      Save(form, "dialog-camera-properties");
+    });
     Click(editor, "cmdEditCamera");
   }
 
@@ -176,8 +206,7 @@ class Guide {
   void Table() {
     WhenShown("frmTableEdit", [this](QWidget& form) {
       QListWidget& rows = The<QtListBox>(form, "lstTable");
-      QTest::mouseClick(rows.viewport(), Qt::LeftButton, {},
-                        rows.visualItemRect(rows.item(3)).center());
+      ClickRow(rows, 3);
       Save(form, "dialog-table-edit");
       WhenShown("frmEditValue", [this](QWidget& value) { Save(value, "dialog-edit-value"); });
       Click(form, "cmdEdit");
