@@ -82,9 +82,9 @@ void WhenShown(const char* name, std::function<void(QWidget&)> act) {
 }
 
 struct EventPicture {
-  const char* name;
-  std::int32_t conversation;
-  std::int32_t event;
+  const char* name = nullptr;
+  std::int32_t conversation = 0;
+  std::int32_t event = 0;
   const char* list = nullptr;  ///< In which the last row is selected.
 };
 
@@ -111,7 +111,7 @@ constexpr EventPicture kEventPictures[] = {{"event-speech", 0, 3},
 
 class Guide {
  public:
-  Guide(const std::string& file, QString folder) : folder_(std::move(folder)) {
+  Guide(const std::string& file, const QString& folder) : folder_(folder) {
     window_.InitMainWindow();
     window_.Start(file);
     if (window_.shell().GetConFile() == nullptr) throw std::runtime_error("cannot open " + file);

@@ -95,6 +95,7 @@ void frmTableEdit::ConnectControls() {
 void frmTableEdit::PrintRows() {
   if (doors_.printers == nullptr) return;
   std::vector<std::string> rows;
+  rows.reserve(static_cast<std::size_t>(lstTable.ListCount()));
   for (int i = 0; i < lstTable.ListCount(); ++i) rows.push_back(lstTable.List(i));
   PrintTable(rows, tableName_, {*doors_.printers, doors_.messages});
 }

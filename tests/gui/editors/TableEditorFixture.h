@@ -28,6 +28,7 @@ class TableEditorTest : public EditorTest {
   static QtListBox& List(const QWidget& form) { return ControlNamed<QtListBox>(form, "lstTable"); }
   static std::vector<std::string> Rows(const QWidget& form) {
     std::vector<std::string> rows;
+    rows.reserve(static_cast<std::size_t>(List(form).ListCount()));
     for (int i = 0; i < List(form).ListCount(); ++i) rows.push_back(List(form).List(i));
     return rows;
   }
