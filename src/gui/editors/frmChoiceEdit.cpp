@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <utility>
 
+#include "editors/panels/PanelControls.h"
 #include "model/TableCombos.h"
 #include "model/Tables.h"
 #include "model/Vocabulary.h"
@@ -99,7 +100,7 @@ void frmChoiceEdit::LoadForm(QWidget* owner, const std::shared_ptr<Conversation>
 void frmChoiceEdit::ShowChoice(const ChoiceItem& choice) {
   txtChoice.setText(ToQString(choice.text));
   cboJumpLabel.SetText(choice.label);
-  txtAudioFile.setText(ToQString(choice.audioFile));
+  SetLineText(txtAudioFile, choice.audioFile);
   chkShowChoice.setChecked(choice.bDisplayAsSpeech);
   if (choice.skillID < 0) return;
   chkSkill.setChecked(true);
@@ -179,7 +180,7 @@ void frmChoiceEdit::ToggleFlag() {
 
 void frmChoiceEdit::ChooseAudioFile() {
   const std::string file = host_.SelectAudioFile();
-  if (!file.empty()) txtAudioFile.setText(ToQString(file));
+  if (!file.empty()) SetLineText(txtAudioFile, file);
 }
 
 void frmChoiceEdit::PlayAudio() {

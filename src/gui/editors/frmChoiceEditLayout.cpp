@@ -3,12 +3,11 @@
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
-#include <limits>
 
 #include "editors/frmChoiceEdit.h"
-#include "platform/CodePageInput.h"
 #include "platform/FontSetup.h"
 #include "platform/FormControls.h"
+#include "platform/TextField.h"
 
 namespace parlate {
 
@@ -16,11 +15,9 @@ namespace {
 
 constexpr int kFieldWidth = 320;
 
-/// A line for any text of a file, however long.
-void SetUpTextLine(QLineEdit& line, const char* name, QLabel& label) {
-  SetUpField(line, name, label);
-  line.setMaxLength(std::numeric_limits<int>::max());
-  KeepToCodePage(line);
+/// Three dots need less room than the toolkit gives a button, which the field beside it can use.
+void Narrow(QPushButton& button) {
+  button.setMaximumWidth(button.fontMetrics().horizontalAdvance(QStringLiteral("xx...xx")));
 }
 
 }  // namespace
@@ -43,16 +40,19 @@ void frmChoiceEdit::SetUpControls() {
 
 void frmChoiceEdit::SetUpGeneralPage() {
   SetUpLabel(Label1, "Label1", QStringLiteral("Choice Text:"));
-  SetUpTextLine(txtChoice, "txtChoice", Label1);
+  SetUpField(txtChoice, "txtChoice", Label1);
+  SetUpTextLine(txtChoice);
   SetUpLabel(Label15, "Label15", QStringLiteral("Jump to Label:"));
   SetUpField(cboJumpLabel, "cboJumpLabel", Label15);
   NameControl(frmShowChoice, "frmShowChoice", QStringLiteral("Speech"));
   SetUpButton(chkShowChoice, "chkShowChoice",
               QStringLiteral("Display Choice as Speech When Selected"));
   SetUpLabel(Label20, "Label20", QStringLiteral("Audio File:"));
-  SetUpTextLine(txtAudioFile, "txtAudioFile", Label20);
+  SetUpField(txtAudioFile, "txtAudioFile", Label20);
+  SetUpTextLine(txtAudioFile);
   SetUpButton(cmdSpeechAudio, "cmdSpeechAudio", QStringLiteral("..."));
   cmdSpeechAudio.setAccessibleName(QStringLiteral("Choose Audio File"));
+  Narrow(cmdSpeechAudio);
   SetUpButton(cmdPlayAudio, "cmdPlayAudio", QStringLiteral("&Play"));
 }
 
@@ -75,6 +75,7 @@ void frmChoiceEdit::SetUpSkillsPage() {
   SetUpButton(cmdEditSkills, "cmdEditSkills", QStringLiteral("..."));
   cmdEditSkills.setAccessibleName(QStringLiteral("Edit Skills"));
   cmdEditSkills.setToolTip(QStringLiteral("Edit Skills"));
+  Narrow(cmdEditSkills);
   SetUpLabel(lblSkillLevel, "lblSkillLevel", QStringLiteral("at Level:"));
   SetUpField(cboSkillLevels, "cboSkillLevels", lblSkillLevel);
   cboSkillLevels.MakeListOnly();

@@ -3,8 +3,8 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include "platform/CodePageInput.h"
 #include "platform/FormControls.h"
+#include "platform/TextField.h"
 #include "widgets/CodePageText.h"
 
 namespace parlate {
@@ -29,7 +29,7 @@ void frmEditValue::SetUpControls() {
   setWindowTitle(QStringLiteral("Edit Value"));
   SetUpLabel(lblDesc, "lblDesc", QStringLiteral("Value"));
   SetUpField(txtValue, "txtValue", lblDesc);
-  KeepToCodePage(txtValue);
+  SetUpTextLine(txtValue);
   SetUpButton(cmdOK, "cmdOK", QStringLiteral("&OK"));
   SetUpButton(cmdCancel, "cmdCancel", QStringLiteral("&Cancel"));
   cmdOK.setDefault(true);

@@ -7,9 +7,8 @@
 #include "editors/frmEditValue.h"
 #include "general/CodePage.h"
 #include "model/Tables.h"
-#include "platform/CodePageInput.h"
 #include "platform/FormControls.h"
-#include "platform/NameKeys.h"
+#include "platform/TextField.h"
 #include "printing/TablePages.h"
 #include "widgets/CodePageText.h"
 
@@ -49,7 +48,7 @@ void frmTableEdit::SetUpControls() {
   NameControl(lstTable, "lstTable", QStringLiteral("Table"));
   lstTable.installEventFilter(this);
   NameControl(txtName, "txtName", QStringLiteral("Name"));
-  KeepToCodePage(txtName);
+  SetUpTextLine(txtName);
   txtName.installEventFilter(this);
   SetUpButton(cmdAdd, "cmdAdd", QStringLiteral("&Add"));
   SetUpButton(cmdEdit, "cmdEdit", QStringLiteral("&Edit"));
@@ -96,6 +95,7 @@ void frmTableEdit::ConnectControls() {
 void frmTableEdit::PrintRows() {
   if (doors_.printers == nullptr) return;
   std::vector<std::string> rows;
+  rows.reserve(static_cast<std::size_t>(lstTable.ListCount()));
   for (int i = 0; i < lstTable.ListCount(); ++i) rows.push_back(lstTable.List(i));
   PrintTable(rows, tableName_, {*doors_.printers, doors_.messages});
 }
@@ -110,7 +110,7 @@ std::int32_t frmTableEdit::EditTable(std::int32_t newTableType) {
   setAccessibleName(caption);
   lstTable.setAccessibleName(caption);
   txtName.setAccessibleName(ToQString(RowCaption() + " Name"));
-  if (tableType == kFlagTable) KeepToNameKeys(txtName);
+  if (tableType == kFlagTable) FilterNameKeys(txtName);
   PopulateTable();
   exec();
   return lstTable.ListIndex() == -1 ? -1 : lstTable.ItemData(lstTable.ListIndex());

@@ -2,6 +2,7 @@
 
 #include "model/Tables.h"
 #include "support/ShellFixture.h"
+#include "support/TestWorkspace.h"
 
 namespace parlate {
 namespace {
@@ -103,6 +104,52 @@ TEST_F(ShellConClipboard, PasteInAnotherFileLinksTheFlagsByTheirNames) {
   EXPECT_THAT(TreeLines(), testing::IsSupersetOf(
                                {std::string("    Door = True"), std::string("    Lamp = False")}));
   EXPECT_EQ(GetTable(kFlagTable)->Count(), 2U);
+}
+
+TEST_F(ShellConClipboard, CopyOfAPastedConversationKeepsItsFlagNumbersInAnotherFile) {
+  OpenHarbour();
+  Click("C0");
+  Window().CopyConversation();
+  Window().PasteConversation();
+  ASSERT_THAT(FlagIDs(3), ElementsAre(2, 3)) << "Door and Lamp";
+  Click("C3");
+  Window().CopyConversation();
+  TableFields tables;
+  tables.actors = {{7, "Zoe"}};
+  tables.flags = {{2, "Lamp"}, {3, "Bell"}, {9, "Door"}};
+  program_.messages.Expect(Answer::No);
+  Open(FileOf(tables, {}), "other.con");
+  Window().PasteConversation();
+  const Conversation& pasted = *Window().SelectedCon();
+  EXPECT_EQ(pasted.NPCID, 7) << "all but the conditions is linked by name";
+  EXPECT_THAT(FlagIDs(pasted.key), ElementsAre(2, 3))
+      << "the mark of the first paste came along, though these are Lamp and Bell here";
+}
+
+TEST_F(ShellConClipboard, CopyOfAPastedConversationFailsWhereAFlagNumberIsMissing) {
+  OpenHarbour();
+  Click("C0");
+  Window().CopyConversation();
+  Window().PasteConversation();
+  Click("C3");
+  Window().CopyConversation();
+  program_.messages.Expect(Answer::No);
+  OpenOther();  // Flags 2 and 9, but no 3.
+  EXPECT_EQ(ErrorOf([this] { Window().PasteConversation(); }), RuntimeError::kInvalidProcedureCall);
+}
+
+TEST_F(ShellConClipboard, CopyOfAPastedConversationIsLinkedAnewOnceItsFileWasLoadedAgain) {
+  OpenHarbour();
+  Click("C0");
+  Window().CopyConversation();
+  Window().PasteConversation();
+  ASSERT_TRUE(Window().SaveConFile(false));
+  Window().OpenConFile(Path("harbour.con"));
+  Click("C3");
+  Window().CopyConversation();
+  OpenOther();
+  Window().PasteConversation();
+  EXPECT_THAT(FlagIDs(5), ElementsAre(9, 2));
 }
 
 TEST_F(ShellConClipboard, PasteInAnotherFileAddsTheRowsThatItLacks) {

@@ -1,6 +1,7 @@
 // The program's own clipboard: events, within a file and from file to file.
 
 #include "support/ShellFixture.h"
+#include "support/TestWorkspace.h"
 
 namespace parlate {
 namespace {
@@ -137,6 +138,44 @@ TEST_F(ShellEventClipboard, OutlivesTheFileAndKeepsItsRowNumbers) {
   Window().PasteEvent();
   EXPECT_THAT(RowTexts(), ElementsAre("Start;Speech;Carl;hello.mp3"))
       << "events are not linked anew by name";
+}
+
+TEST_F(ShellEventClipboard, JumpToAConversationThatIsNotInTheFileFailsWithTheEventInItsPlace) {
+  ClickRow(3);
+  Window().CopySelectedEvent();
+  TableFields tables;
+  tables.actors = {{0, "Bob"}};
+  Open(FileOf(tables, {Con(4, "Other", {0, "Bob"}, {Comment(1, "", "here")})}), "second.con");
+  Click("C4");
+  EXPECT_EQ(ErrorOf([this] { Window().PasteEvent(); }), RuntimeError::kObjectVariableNotSet);
+  ASSERT_EQ(ConOf(4).events.Count(), 2U);
+  const auto* jump = ConOf(4).events.Place(2)->As<EventJump>();
+  ASSERT_NE(jump, nullptr);
+  EXPECT_EQ(jump->label, "Start");
+  EXPECT_EQ(jump->conID, 0);
+  EXPECT_THAT(RowTexts(), ElementsAre(";Comment;;",
+                                      ";Jump;;Jump to Start [Invalid Conversation - Please fix]"));
+  EXPECT_TRUE(Window().GetConFile()->IsModified());
+}
+
+TEST_F(ShellEventClipboard, JumpLeadsToWhatHasThatKeyInAnotherFileByChance) {
+  ClickRow(3);
+  Window().CopySelectedEvent();
+  TableFields tables;
+  tables.actors = {{6, "Bob"}};
+  Open(FileOf(tables, {Con(0, "Stranger", {6, "Bob"}), Con(4, "Other", {6, "Bob"})}), "second.con");
+  Click("C4");
+  for (int paste = 0; paste < 2; ++paste) Window().PasteEvent();
+  ASSERT_EQ(ConOf(4).events.Count(), 2U);
+  for (const std::string& row : RowTexts()) EXPECT_EQ(row, ";Jump;;Jump to Start");
+  // The second one stands above the first, and was copied from it here.
+  const auto* second = ConOf(4).events.Place(1)->As<EventJump>();
+  EXPECT_EQ(second->conID, 0);
+  EXPECT_EQ(second->conName, "Stranger");
+  EXPECT_EQ(second->conOwner, 6);
+  const auto* first = ConOf(4).events.Place(2)->As<EventJump>();
+  EXPECT_EQ(first->conID, 0);
+  EXPECT_EQ(first->conName, "greeting");
 }
 
 }  // namespace

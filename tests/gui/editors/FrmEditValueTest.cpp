@@ -87,6 +87,15 @@ TEST_F(FrmEditValueTest, OkIsZeroAndCancelEscapeAndClosingAreOne) {
   EXPECT_EQ(form_.modalResult, 1);
 }
 
+TEST_F(FrmEditValueTest, AValueOfFortyThousandLettersIsTakenWhole) {
+  const std::string value(40000, 'x');
+  form_.SetEditValue(value);
+  Show();
+  QTest::keyClick(&form_, Qt::Key_Return);
+  EXPECT_EQ(form_.modalResult, 0);
+  EXPECT_EQ(form_.EditValue(), value);
+}
+
 TEST_F(FrmEditValueTest, ALetterOutsideTheCodePageShowsAsAQuestionMark) {
   Show();
   TypeText(TextOf(form_, "txtValue"), QStringLiteral(u"\u4E2Dx"));

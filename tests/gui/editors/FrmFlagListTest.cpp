@@ -48,6 +48,8 @@ class FrmFlagListTest : public ::testing::Test {
     EXPECT_EQ(form_->modalResult, 1);
     EXPECT_TRUE(TextOf(*form_, "txtExpiration").hasFocus());
     EXPECT_EQ(TextOf(*form_, "txtExpiration").selectedText(), "99999999999");
+    EXPECT_TRUE(space_.messages.shown.empty());
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << "no other box either";
   }
   void Hold(std::int32_t id) {
     auto flag = std::make_shared<FlagRef>();
@@ -96,6 +98,27 @@ TEST_F(FrmFlagListTest, OnlyFlagsThatTheListLacksAreOfferedInOrderOfTheirNames) 
   EXPECT_EQ(List().ItemData(0), 7);
   EXPECT_EQ(List().ItemData(1), 3);
   EXPECT_EQ(List().ItemData(2), 5);
+}
+
+TEST_F(FrmFlagListTest, OfTwoFlagsOfOneNameEachRowPicksItsOwn) {
+  TestWorkspace::AddRows(kFlagTable, {{9, "Lamp"}});
+  ASSERT_THAT(Offered(), ElementsAre("anchor", "Door", "Lamp", "Lamp", "Zip"));
+  ClickRow(2);
+  EXPECT_EQ(Form().SelectedFlag(), 3);
+  ClickRow(3);
+  EXPECT_EQ(Form().SelectedFlag(), 9);
+  ClickRow(2, Qt::ControlModifier);
+  SetSelectedFlagRefs(flags_, Form().Rows(), true, 0);
+  ASSERT_EQ(flags_.Count(), 2U);
+  EXPECT_NE(flags_.Find(3), nullptr);
+  EXPECT_NE(flags_.Find(9), nullptr);
+}
+
+TEST_F(FrmFlagListTest, OfTwoFlagsOfOneNameTheOneThatTheListLacksIsOffered) {
+  TestWorkspace::AddRows(kFlagTable, {{9, "Lamp"}});
+  Hold(3);
+  ASSERT_THAT(Offered(), ElementsAre("anchor", "Door", "Lamp", "Zip"));
+  EXPECT_EQ(List().ItemData(2), 9);
 }
 
 TEST_F(FrmFlagListTest, WithEveryFlagInTheListThePickerIsEmptyAndOkGrey) {
@@ -184,6 +207,11 @@ TEST_F(FrmFlagListTest, CancelEscapeAndClosingStayOne) {
   EXPECT_TRUE(form_->isHidden());
   form_.reset();
   QTest::keyClick(&Form(), Qt::Key_Escape);
+  EXPECT_EQ(form_->modalResult, 1);
+  EXPECT_TRUE(form_->isHidden());
+  form_.reset();
+  ClickRow(0);
+  form_->close();
   EXPECT_EQ(form_->modalResult, 1);
   EXPECT_TRUE(form_->isHidden());
 }

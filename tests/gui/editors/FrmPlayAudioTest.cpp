@@ -6,42 +6,13 @@
 #include "editors/EditorFixture.h"
 #include "editors/frmPlayAudio.h"
 #include "general/Paths.h"
+#include "platform/WaveFile.h"
 #include "support/TestWorkspace.h"
 
 namespace parlate {
 namespace {
 
 using namespace testing_support;
-
-void Put16(std::string& bytes, unsigned value) {
-  bytes += static_cast<char>(value & 0xFFU);
-  bytes += static_cast<char>((value >> 8U) & 0xFFU);
-}
-
-void Put32(std::string& bytes, unsigned value) {
-  Put16(bytes, value & 0xFFFFU);
-  Put16(bytes, value >> 16U);
-}
-
-/// A wave file of silence: one channel of 8 bits at 8,000 Hz.
-std::string WaveFile(unsigned milliseconds) {
-  constexpr unsigned kRate = 8000;
-  const unsigned samples = kRate * milliseconds / 1000;
-  std::string bytes = "RIFF";
-  Put32(bytes, 36 + samples);
-  bytes += "WAVEfmt ";
-  Put32(bytes, 16);
-  Put16(bytes, 1);
-  Put16(bytes, 1);
-  Put32(bytes, kRate);
-  Put32(bytes, kRate);
-  Put16(bytes, 1);
-  Put16(bytes, 8);
-  bytes += "data";
-  Put32(bytes, samples);
-  bytes.append(samples, '\x80');
-  return bytes;
-}
 
 class FrmPlayAudioTest : public ::testing::Test {
  protected:
@@ -195,17 +166,17 @@ TEST_F(FrmPlayAudioTest, ClosingTheWindowOtherwiseEndsTheSoundToo) {
   }
 }
 
-TEST_F(FrmPlayAudioTest, OnePlayerPlaysOneFileAfterAnother) {
-  Put("hello.wav", WaveFile(100));
-  WavePlayer player;
-  const QSignalSpy ends(&player, &WavePlayer::done);
-  player.Play();
-  player.Close();
-  for (int round = 1; round <= 2; ++round) {
-    player.Open(folder_.File("audio/hello.wav"));
-    player.Play();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return ends.count() == round; }, 8000));
+TEST_F(FrmPlayAudioTest, ASoundThatWasClosedDoesNotReachItsEnd) {
+  Put("hello.wav", WaveFile(300));
+  frmPlayAudio form(Folder());
+  const QSignalSpy ends(form.findChild<WavePlayer*>("mmcPlayWave"), &WavePlayer::done);
+  {
+    const WhenModal modal([](QWidget& window) { Click(window, "cmdClose"); });
+    form.PlayWaveFile("hello", con_);
   }
+  EXPECT_TRUE(form.isHidden());
+  QTest::qWait(900);
+  EXPECT_EQ(ends.count(), 0);
 }
 
 }  // namespace

@@ -1,65 +1,24 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <set>
+#include <QInputMethodEvent>
 
-#include "editors/EditorFixture.h"
-#include "editors/frmTableEdit.h"
+#include "editors/TableEditorFixture.h"
 #include "model/TableCombos.h"
 #include "support/ShellFixture.h"
+#include "widgets/CodePageText.h"
 
 namespace parlate {
 namespace {
 
 using namespace testing_support;
 using testing::ElementsAre;
-using testing::IsEmpty;
 using Icon = MessageBox::Icon;
 using Buttons = MessageBox::Buttons;
 
 constexpr const char* kSelect = "no row is selected";
 
-class FrmTableEditTest : public EditorTest {
- protected:
-  /// Opens the editor of a table, lets the user work, and closes it with its button.
-  std::int32_t Edit(std::int32_t tableType, const std::function<void(QWidget&)>& user) {
-    frmTableEdit editor(Doors(), &program_.Window());
-    WhenFormShows("frmTableEdit", [&user](QWidget& form) {
-      user(form);
-      if (form.isVisible()) Click(form, "cmdClose");
-    });
-    return editor.EditTable(tableType);
-  }
-
-  static QtListBox& List(const QWidget& form) { return ControlNamed<QtListBox>(form, "lstTable"); }
-  static std::vector<std::string> Rows(const QWidget& form) {
-    std::vector<std::string> rows;
-    for (int i = 0; i < List(form).ListCount(); ++i) rows.push_back(List(form).List(i));
-    return rows;
-  }
-  static void ClickRow(const QWidget& form, int row) {
-    QtListBox& list = List(form);
-    list.scrollToItem(list.item(row));
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
-                      list.visualItemRect(list.item(row)).center());
-  }
-  static void DoubleClickRow(const QWidget& form, int row) {
-    ClickRow(form, row);
-    QTest::mouseDClick(List(form).viewport(), Qt::LeftButton, {},
-                       List(form).visualItemRect(List(form).item(row)).center());
-  }
-  static void Add(const QWidget& form, const char* name) {
-    TextOf(form, "txtName").clear();
-    QTest::keyClicks(&TextOf(form, "txtName"), name);
-    Click(form, "cmdAdd");
-  }
-  static std::vector<std::string> NamesOf(std::int32_t tableType) {
-    std::vector<std::string> names;
-    for (const TableItem& row : *GetTable(tableType)) names.push_back(row.Name);
-    return names;
-  }
-  bool IsModified() { return program_.shell().GetConFile()->IsModified(); }
-};
+class FrmTableEditTest : public TableEditorTest {};
 
 TEST_F(FrmTableEditTest, EveryCaptionIsTheRightOne) {
   const std::vector<std::pair<std::int32_t, const char*>> captions = {{kActorTable, "Actors/Pawns"},
@@ -193,6 +152,38 @@ TEST_F(FrmTableEditTest, AFlagNameDropsTypedKeysThatMayNotStandInIt) {
   });
 }
 
+TEST_F(FrmTableEditTest, AFlagNameDropsWhatAnInputMethodCommitsThatMayNotStandInIt) {
+  const auto commit = [](const QWidget& form, const QString& text) {
+    QInputMethodEvent event;
+    event.setCommitString(text);
+    QCoreApplication::sendEvent(&TextOf(form, "txtName"), &event);
+    return TextOf(form, "txtName").text();
+  };
+  const QString typed = QStringLiteral(u"a\u00E9 b.-");
+  Edit(kFlagTable, [&](QWidget& form) {
+    EXPECT_EQ(commit(form, typed), "ab-");
+    EXPECT_EQ(commit(form, QStringLiteral(u"\u00E9 ")), "ab-");
+  });
+  Edit(kObjectTable, [&](QWidget& form) { EXPECT_EQ(commit(form, typed), typed); });
+}
+
+TEST_F(FrmTableEditTest, ANameOfFortyThousandLettersIsAddedAndRenamedWhole) {
+  const std::string name(40000, 'a');
+  Edit(kObjectTable, [&name](QWidget& form) {
+    TextOf(form, "txtName").setText(ToQString(name));
+    Click(form, "cmdAdd");
+    ASSERT_EQ(List(form).ListCount(), 3);
+    ClickRow(form, 0);
+    WhenFormShows("frmEditValue", [&name](QWidget& dialog) {
+      EXPECT_EQ(TextOf(dialog, "txtValue").text(), ToQString(name));
+      QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    Click(form, "cmdEdit");
+    EXPECT_EQ(List(form).List(0), name);
+  });
+  EXPECT_EQ(GetTableItemName(kObjectTable, 10), name);
+}
+
 TEST_F(FrmTableEditTest, AFlagNameThatWasPastedIsRefusedWhenItIsAdded) {
   program_.messages.Expect(Answer::Ok);
   Edit(kFlagTable, [](QWidget& form) {
@@ -258,42 +249,6 @@ TEST_F(FrmTableEditTest, ACancelledRenameMarksTheFileChangedAllTheSame) {
   EXPECT_TRUE(IsModified());
 }
 
-TEST_F(FrmTableEditTest, AnUnusedRowIsDeletedAndTheNextOneSelected) {
-  TestWorkspace::AddRows(kObjectTable, {{10, "Axe"}});
-  Edit(kObjectTable, [](QWidget& form) {
-    EXPECT_THAT(Rows(form), ElementsAre("Axe", "Key", "Rope"));
-    ClickRow(form, 0);
-    Click(form, "cmdDelete");
-    EXPECT_THAT(Rows(form), ElementsAre("Key", "Rope"));
-    EXPECT_EQ(List(form).ListIndex(), 0) << "the row that moved up";
-    ClickRow(form, 1);
-    Click(form, "cmdDelete");
-    EXPECT_THAT(Rows(form), ElementsAre("Key"));
-    EXPECT_EQ(List(form).ListIndex(), 0) << "the last one that is left";
-    EXPECT_TRUE(IsEnabled(form, "cmdDelete"));
-  });
-  EXPECT_THAT(NamesOf(kObjectTable), ElementsAre("Key"));
-  EXPECT_TRUE(IsModified());
-}
-
-TEST_F(FrmTableEditTest, TheDeleteKeyDeletesWithoutModifierOnly) {
-  Edit(kObjectTable, [](QWidget& form) {
-    QTest::keyClick(&List(form), Qt::Key_Delete);
-    EXPECT_EQ(List(form).ListCount(), 2) << kSelect;
-    ClickRow(form, 1);
-    QTest::keyClick(&List(form), Qt::Key_Delete, Qt::ShiftModifier);
-    QTest::keyClick(&List(form), Qt::Key_Delete, Qt::ControlModifier);
-    EXPECT_EQ(List(form).ListCount(), 2);
-    QTest::keyClicks(&TextOf(form, "txtName"), "x");
-    QTest::keyClick(&TextOf(form, "txtName"), Qt::Key_Home);
-    QTest::keyClick(&TextOf(form, "txtName"), Qt::Key_Delete);
-    EXPECT_EQ(TextOf(form, "txtName").text(), "") << "in the name it deletes a letter";
-    EXPECT_EQ(List(form).ListCount(), 2);
-    QTest::keyClick(&List(form), Qt::Key_Delete);
-    EXPECT_THAT(Rows(form), ElementsAre("Key"));
-  });
-}
-
 TEST_F(FrmTableEditTest, TheInsertKeyAddsTheNameFromTheListAndFromTheNameWithoutModifierOnly) {
   Edit(kObjectTable, [](QWidget& form) {
     QLineEdit& name = TextOf(form, "txtName");
@@ -320,194 +275,6 @@ TEST_F(FrmTableEditTest, TheInsertKeyAddsTheNameFromTheListAndFromTheNameWithout
     QTest::keyClick(&TextOf(form, "txtName"), Qt::Key_Insert);
     EXPECT_THAT(Rows(form), ElementsAre("Axe", "Door", "Lamp"));
   });
-}
-
-TEST_F(FrmTableEditTest, TheAccessKeyOfBothDeleteButtonsGoesFromOneToTheOtherAndRunsNone) {
-  Edit(kObjectTable, [](QWidget& form) {
-    ClickRow(form, 1);
-    std::set<QString> reached;
-    for (int press = 0; press < 2; ++press) {
-      QTest::keyClick(&form, Qt::Key_D, Qt::AltModifier);
-      reached.insert(QApplication::focusWidget()->objectName());
-    }
-    EXPECT_EQ(reached, (std::set<QString>{"cmdDelete", "cmdDeleteUnused"}));
-    // A button that was pressed by its key would be let go by now.
-    QTest::qWait(250);
-    EXPECT_THAT(Rows(form), ElementsAre("Key", "Rope"));
-  });
-  EXPECT_THAT(Boxes(), IsEmpty());
-}
-
-TEST_F(FrmTableEditTest, TheAccessKeyOfDeleteUnusedRunsItWhileDeleteIsGrey) {
-  program_.messages.Expect(Answer::No);
-  Edit(kObjectTable, [this](QWidget& form) {
-    EXPECT_FALSE(IsEnabled(form, "cmdDelete"));
-    QTest::keyClick(&form, Qt::Key_D, Qt::AltModifier);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !Boxes().empty(); }));
-  });
-  ASSERT_EQ(Boxes().size(), 1U);
-  EXPECT_EQ(Boxes()[0].title, "Remove Unused Entries?");
-}
-
-TEST_F(FrmTableEditTest, ARowInUseIsNotDeletedAndNoEndsIt) {
-  program_.messages.Expect(Answer::No);
-  Edit(kObjectTable, [](QWidget& form) {
-    ClickRow(form, 0);
-    Click(form, "cmdDelete");
-    EXPECT_THAT(Rows(form), ElementsAre("Key", "Rope"));
-  });
-  ASSERT_EQ(Boxes().size(), 1U);
-  EXPECT_THAT(Boxes()[0],
-              IsBox("Cannot Remove Item",
-                    "This Item cannot be removed because it is referenced in at least one "
-                    "conversation.  You must first remove the references.\n\nWould you like to see "
-                    "the conversations the item is referenced in?",
-                    Icon::Question, Buttons::YesNo));
-  EXPECT_NE(GetTable(kObjectTable)->Find(4), nullptr);
-  EXPECT_FALSE(IsModified());
-}
-
-TEST_F(FrmTableEditTest, ARowInUseIsNotDeletedWithYesEitherAndASecondBoxIsSorry) {
-  program_.messages.Expect(Answer::Yes);
-  program_.messages.Expect(Answer::Ok);
-  Edit(kObjectTable, [](QWidget& form) {
-    ClickRow(form, 0);
-    Click(form, "cmdDelete");
-    EXPECT_EQ(List(form).ListCount(), 2);
-  });
-  ASSERT_EQ(Boxes().size(), 2U);
-  EXPECT_THAT(Boxes()[1], IsBox("Sorry!", "Sorry, ain't gonna' happen.  Maybe after E3.",
-                                Icon::Critical, Buttons::Ok));
-  EXPECT_NE(GetTable(kObjectTable)->Find(4), nullptr);
-}
-
-TEST_F(FrmTableEditTest, AnActorIsInUseAsSoonAsAJumpWasLoadedThoughNobodyNamesIt) {
-  for (std::size_t place = 1; place <= 2; ++place) {
-    program_.shell().GetConFile()->Conversations.Place(place)->NPCID = 1;
-  }
-  Conversation& con = *program_.shell().GetConFile()->Conversations.Place(1);
-  std::vector<std::int32_t> others;
-  for (const EventItem& event : con.events) {
-    if (event.eventType != kJump) others.push_back(event.key);
-  }
-  for (const std::int32_t key : others) con.EventRemove(key);
-  program_.messages.Expect(Answer::No);
-  Edit(kActorTable, [](QWidget& form) {
-    EXPECT_EQ(List(form).List(0), "Alex");
-    ClickRow(form, 0);
-    Click(form, "cmdDelete");
-    EXPECT_EQ(List(form).ListCount(), 3) << "the owner that a jump remembers is 0 until it is cut";
-  });
-}
-
-TEST_F(FrmTableEditTest, DeleteUnusedRemovesWhatNothingNamesAndMarksNothing) {
-  TestWorkspace::AddRows(kObjectTable, {{10, "Axe"}, {11, "Zip"}});
-  program_.messages.Expect(Answer::Yes);
-  program_.messages.Expect(Answer::Ok);
-  Edit(kObjectTable, [](QWidget& form) {
-    Click(form, "cmdDeleteUnused");
-    EXPECT_TRUE(form.isVisible());
-    EXPECT_THAT(Rows(form), ElementsAre("Key"));
-    EXPECT_EQ(List(form).ListIndex(), 0) << "the row that moved up to the one removed last";
-    EXPECT_TRUE(IsEnabled(form, "cmdDelete"));
-  });
-  ASSERT_EQ(Boxes().size(), 2U);
-  EXPECT_THAT(Boxes()[0], IsBox("Remove Unused Entries?",
-                                "Are you sure you wish to remove any unused table entries?",
-                                Icon::Question, Buttons::YesNo));
-  EXPECT_THAT(Boxes()[1],
-              IsBox("Table Cleaned", "3 table entries were removed.", Icon::None, Buttons::Ok));
-  EXPECT_THAT(NamesOf(kObjectTable), ElementsAre("Key"));
-  EXPECT_FALSE(IsModified());
-}
-
-TEST_F(FrmTableEditTest, DeleteUnusedShowsEachNameUnderTheBarFromTheLastRowToTheFirst) {
-  TestWorkspace::AddRows(kObjectTable, {{10, "Axe"}});
-  program_.messages.Expect(Answer::Yes);
-  program_.messages.Expect(Answer::Ok);
-  Edit(kObjectTable, [](QWidget& form) { Click(form, "cmdDeleteUnused"); });
-  EXPECT_EQ(progress_.caption, "Progress");
-  EXPECT_THAT(progress_.texts, ElementsAre("Removing Table Entries..."));
-  EXPECT_THAT(progress_.tops, ElementsAre(3));
-  EXPECT_THAT(progress_.textsBelow, ElementsAre("Rope", "Key", "Axe"));
-  EXPECT_THAT(progress_.values, ElementsAre(1, 2, 3));
-  EXPECT_FALSE(progress_.showing);
-}
-
-TEST_F(FrmTableEditTest, DeleteUnusedHidesTheWindowForTheWhile) {
-  class Watching final : public ProgressDisplay {
-   public:
-    void Begin(const std::string&, const std::string&, int) override { Look(); }
-    void SetTop(int) override {}
-    void Step(const std::string&, int) override { Look(); }
-    void End() override { Look(); }
-    void Look() { seen.insert(form->isVisible()); }
-
-    QWidget* form = nullptr;
-    std::set<bool> seen;
-  };
-  Watching progress;
-  frmTableEdit editor({program_.shell(), program_.messages, program_.dialogs, progress}, nullptr);
-  progress.form = &editor;
-  program_.messages.Expect(Answer::Yes);
-  program_.messages.Expect(Answer::Ok);
-  WhenFormShows("frmTableEdit", [](QWidget& form) {
-    Click(form, "cmdDeleteUnused");
-    EXPECT_TRUE(form.isVisible());
-    EXPECT_TRUE(form.isModal());
-    Click(form, "cmdClose");
-  });
-  editor.EditTable(kObjectTable);
-  EXPECT_EQ(progress.seen, std::set<bool>{false});
-  EXPECT_FALSE(editor.isVisible());
-}
-
-TEST_F(FrmTableEditTest, DeleteUnusedWithNoUnusedRowReportsNone) {
-  program_.messages.Expect(Answer::Yes);
-  program_.messages.Expect(Answer::Ok);
-  Edit(kSkillTable, [](QWidget& form) {
-    ClickRow(form, 0);
-    Click(form, "cmdDeleteUnused");
-    EXPECT_EQ(List(form).ListIndex(), 0);
-  });
-  EXPECT_EQ(Boxes().back().text, "0 table entries were removed.");
-}
-
-TEST_F(FrmTableEditTest, DeleteUnusedAnsweredWithNoDoesNothing) {
-  program_.messages.Expect(Answer::No);
-  Edit(kObjectTable, [](QWidget& form) {
-    Click(form, "cmdDeleteUnused");
-    EXPECT_EQ(List(form).ListCount(), 2);
-  });
-  EXPECT_EQ(Boxes().size(), 1U);
-  EXPECT_TRUE(progress_.texts.empty());
-}
-
-TEST_F(FrmTableEditTest, DeleteUnusedCanEmptyTheTable) {
-  program_.shell().GetConFile()->ConversationRemoveAll();
-  program_.messages.Expect(Answer::Yes);
-  program_.messages.Expect(Answer::Ok);
-  Edit(kObjectTable, [](QWidget& form) {
-    Click(form, "cmdDeleteUnused");
-    EXPECT_EQ(List(form).ListCount(), 0);
-    EXPECT_EQ(List(form).ListIndex(), -1);
-    for (const char* name : {"cmdEdit", "cmdDelete", "cmdDeleteUnused", "cmdPrint"}) {
-      EXPECT_FALSE(IsEnabled(form, name)) << name;
-    }
-  });
-  EXPECT_THAT(NamesOf(kObjectTable), IsEmpty());
-}
-
-TEST_F(FrmTableEditTest, ManyUnusedRowsGoInAMoment) {
-  testing_support::Rows rows;
-  for (std::int32_t id = 5000; id > 0; --id)
-    rows.emplace_back(id + 100, "Row" + std::to_string(id));
-  TestWorkspace::AddRows(kObjectTable, rows);
-  program_.messages.Expect(Answer::Yes);
-  program_.messages.Expect(Answer::Ok);
-  Edit(kObjectTable, [](QWidget& form) { Click(form, "cmdDeleteUnused"); });
-  EXPECT_EQ(Boxes().back().text, "5001 table entries were removed.");
-  EXPECT_THAT(NamesOf(kObjectTable), ElementsAre("Key"));
 }
 
 TEST_F(FrmTableEditTest, TheSelectedRowIsTheAnswer) {
@@ -540,34 +307,26 @@ TEST_F(FrmTableEditTest, ATableThatDoesNotExistIsNotEdited) {
 TEST_F(FrmTableEditTest, CloseShowsNewActorNamesInTheTreeAndADoubleClickDoesNot) {
   const auto actor = [this] { return program_.shell().tvCons().FindNode("A0")->text; };
   EXPECT_EQ(actor(), "Alex");
-  const auto rename = [](QWidget& form, const char* name) {
-    ClickRow(form, 0);
-    WhenFormShows("frmEditValue", [name](QWidget& dialog) {
-      TextOf(dialog, "txtValue").setText(name);
-      Click(dialog, "cmdOK");
-    });
-    Click(form, "cmdEdit");
-  };
-  Edit(kActorTable, [&](QWidget& form) {
-    rename(form, "Ann");
+  Edit(kActorTable, [](QWidget& form) {
+    Rename(form, "Ann");
     DoubleClickRow(form, 0);
   });
   EXPECT_EQ(actor(), "Alex");
-  Edit(kActorTable, [&](QWidget& form) { rename(form, "Abe"); });
+  Edit(kActorTable, [](QWidget& form) { Rename(form, "Abe"); });
   EXPECT_EQ(actor(), "Abe");
 }
 
-TEST_F(FrmTableEditTest, CloseShowsNewFlagNamesInTheTree) {
+TEST_F(FrmTableEditTest, CloseShowsNewFlagNamesInTheTreeAndADoubleClickDoesNot) {
   const auto flag = [this] { return program_.shell().tvCons().FindNode("F2,0")->Text(); };
   EXPECT_EQ(flag(), "Door = True");
   Edit(kFlagTable, [](QWidget& form) {
-    ClickRow(form, 0);
-    WhenFormShows("frmEditValue", [](QWidget& dialog) {
-      TextOf(dialog, "txtValue").setText("Gate");
-      Click(dialog, "cmdOK");
-    });
-    Click(form, "cmdEdit");
+    Rename(form, "Bolt");
+    DoubleClickRow(form, 0);
+    EXPECT_FALSE(form.isVisible());
   });
+  EXPECT_EQ(GetTableItemName(kFlagTable, 2), "Bolt");
+  EXPECT_EQ(flag(), "Door = True");
+  Edit(kFlagTable, [](QWidget& form) { Rename(form, "Gate"); });
   EXPECT_EQ(flag(), "Gate = True");
 }
 

@@ -2,6 +2,7 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
@@ -128,6 +129,26 @@ TEST(TextLine, KeepsLineEndsAndIsKeptToTheCodePage) {
   SetUpTextLine(line);
   line.setText(QStringLiteral(u"a\rb\nc\u03A9"));
   EXPECT_EQ(line.text(), QStringLiteral("a\rb\nc?"));
+}
+
+TEST(NameKeys, WhatAnInputMethodCommitsLosesTheLettersThatNoNameHas) {
+  QLineEdit line;
+  FilterNameKeys(line);
+  QInputMethodEvent commit;
+  commit.setCommitString(QStringLiteral(u"\u00E9 b_.-9"));
+  QCoreApplication::sendEvent(&line, &commit);
+  EXPECT_EQ(line.text(), "b_-9");
+}
+
+TEST(NameKeys, AKeyOfSeveralLettersIsDroppedForOneThatNoNameHas) {
+  QLineEdit line;
+  FilterNameKeys(line);
+  QKeyEvent mixed(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QStringLiteral("a b"));
+  QCoreApplication::sendEvent(&line, &mixed);
+  EXPECT_EQ(line.text(), "");
+  QTest::keyClicks(&line, "a.b");
+  QTest::keyClick(&line, Qt::Key_Backspace);
+  EXPECT_EQ(line.text(), "a");
 }
 
 }  // namespace

@@ -1,3 +1,5 @@
+#include <tuple>
+
 #include "editors/panels/CameraPanel.h"
 #include "editors/panels/PanelFixture.h"
 
@@ -14,6 +16,26 @@ class CameraPanelTest : public PanelTest<CameraPanel> {
     event.cameraPosition = position;
     event.cameraTransition = transition;
     return event;
+  }
+  /// A random camera with a value of its own in every field.
+  static EventMoveCamera Full() {
+    EventMoveCamera event = Camera(EventMoveCamera::kRandom, 5, 1);
+    event.rotationPitch = 11;
+    event.rotationYaw = 12;
+    event.rotationRoll = 13;
+    event.cameraX = 14;
+    event.cameraY = 15;
+    event.cameraZ = 16;
+    event.heightModifier = 1.5;
+    event.centerModifier = 2.5;
+    event.distanceMultiplier = 3.5;
+    return event;
+  }
+  static auto FieldsOf(const EventMoveCamera& event) {
+    return std::make_tuple(event.cameraType, event.cameraPosition, event.cameraTransition,
+                           event.rotationPitch, event.rotationYaw, event.rotationRoll,
+                           event.cameraX, event.cameraY, event.cameraZ, event.heightModifier,
+                           event.centerModifier, event.distanceMultiplier);
   }
 };
 
@@ -75,6 +97,43 @@ TEST_F(CameraPanelTest, TheButtonShowsTheCameraPropertiesModalAndWithoutOwner) {
   Focus(Button("cmdEditCamera"));
   QTest::keyClick(&Button("cmdEditCamera"), Qt::Key_Space);
   EXPECT_TRUE(IsSet("optCameraSpecific"));
+}
+
+TEST_F(CameraPanelTest, OkInTheCameraPropertiesLeavesTheEventAsItWas) {
+  EventItem item;
+  auto& camera = item.SetEventObject(kMoveCamera, Full());
+  panel_.LoadEvent(item);
+  Click("optCameraSpecific");
+  const WhenModal user([](QWidget& dialog) {
+    const QList<QLineEdit*> fields = dialog.findChildren<QLineEdit*>();
+    EXPECT_GE(fields.size(), 12);
+    for (QLineEdit* field : fields) field->setText("77");
+    ControlNamed<QtComboBox>(dialog, "cboCameraActor").SetText("Zoe");
+    QTest::mouseClick(&ControlNamed<QRadioButton>(dialog, "Option1"), Qt::LeftButton, {},
+                      QPoint(8, 8));
+    QTest::mouseClick(&ControlNamed<QPushButton>(dialog, "cmdOK"), Qt::LeftButton);
+  });
+  Focus(Button("cmdEditCamera"));
+  QTest::keyClick(&Button("cmdEditCamera"), Qt::Key_Space);
+  EXPECT_EQ(FieldsOf(camera), FieldsOf(Full()));
+  EXPECT_EQ(item.As<EventMoveCamera>(), &camera);
+  EXPECT_TRUE(IsSet("optCameraSpecific"));
+  EXPECT_EQ(Combo("cboCameraTransition").Text(), "Spline");
+}
+
+TEST_F(CameraPanelTest, WhatWasTypedInTheCameraPropertiesIsNotStored) {
+  Show(Full());
+  Click("optCameraSpecific");
+  const WhenModal user([](QWidget& dialog) {
+    for (QLineEdit* field : dialog.findChildren<QLineEdit*>()) field->setText("77");
+    QTest::mouseClick(&ControlNamed<QPushButton>(dialog, "cmdOK"), Qt::LeftButton);
+  });
+  Focus(Button("cmdEditCamera"));
+  QTest::keyClick(&Button("cmdEditCamera"), Qt::Key_Space);
+  EventMoveCamera expected;
+  expected.cameraType = EventMoveCamera::kActor;
+  expected.cameraTransition = 1;
+  EXPECT_EQ(FieldsOf(Stored<EventMoveCamera>()), FieldsOf(expected));
 }
 
 TEST_F(CameraPanelTest, APredefinedPositionHasToBeChosenAndTheOthersNeedNothing) {
