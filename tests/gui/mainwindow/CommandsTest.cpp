@@ -89,6 +89,10 @@ TreeNode& NodeOf(RunningProgram& p, const char* key) {
   return *node;
 }
 
+std::string LastQuestion(const RunningProgram& p) {
+  return p.messages.shown.empty() ? "" : p.messages.shown.back().text;
+}
+
 std::function<void(QWidget&)> AtTab(int tab) {
   return [tab](QWidget& form) { EXPECT_EQ(form.findChild<QTabWidget*>()->currentIndex(), tab); };
 }
@@ -145,7 +149,7 @@ std::vector<Wire> ConversationWires() {
   const auto collapsed = [](RunningProgram& p) { EXPECT_FALSE(NodeOf(p, "A1").expanded); };
   const auto deleted = [](RunningProgram& p) {
     EXPECT_EQ(StateOf(p), (State{.conversations = 2, .rows = 0, .modified = true}));
-    EXPECT_EQ(p.messages.shown.back().text, "Are you sure you wish to Delete this Conversation?");
+    EXPECT_EQ(LastQuestion(p), "Are you sure you wish to Delete this Conversation?");
   };
   return {
       Shows("mnuConAdd", "frmProperties", AtTab(0)),
@@ -165,8 +169,7 @@ std::vector<Wire> ConversationWires() {
       WithKey(Does(
                   "mnuConCheckLabels",
                   [](RunningProgram& p) {
-                    EXPECT_EQ(p.messages.shown.back().title, "No Errors");
-                    EXPECT_EQ(p.messages.shown.back().text, "All Label References are Valid.");
+                    EXPECT_EQ(LastQuestion(p), "All Label References are Valid.");
                   },
                   [](RunningProgram& p) { p.messages.Expect(Answer::Ok); }),
               Qt::CTRL | Qt::Key_L),
@@ -218,7 +221,7 @@ std::vector<Wire> EventWires() {
   const auto yes = [](RunningProgram& p) { p.messages.Expect(Answer::Yes); };
   const auto deleted = [](RunningProgram& p) {
     EXPECT_EQ(StateOf(p), (State{.rows = 4, .modified = true}));
-    EXPECT_EQ(p.messages.shown.back().text, "Are you sure you wish to Delete this event?");
+    EXPECT_EQ(LastQuestion(p), "Are you sure you wish to Delete this event?");
   };
   const auto edits = [](RunningProgram& p) {
     auto& editor = p.Find<frmEvent>("frmEvent");
