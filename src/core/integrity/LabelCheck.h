@@ -11,14 +11,15 @@
 namespace parlate {
 
 /// One broken reference: the conversation and the event that hold it, and the label that no event
-/// defines.
+/// defines. The item may outlive both, so only those of the latest check are there to be followed.
 struct BadLabelItem {
   const Conversation* conObj = nullptr;
   const EventObject* eventObj = nullptr;
   std::string strLabel;
 };
 
-/// The broken references that were reported, in the order of the reports. Repeated ones stay.
+/// The broken references that were reported, in the order of the reports. Repeated ones stay, and
+/// so do those of a file that was closed, until the next label check.
 class BadLabels final : public BadLabelSink {
  public:
   void AddBadLabel(const Conversation& newConObj, const EventObject& newEventObj,

@@ -198,7 +198,10 @@ Boolean Shell::WriteConFile(const std::string& path) {
 
 void Shell::BackupConFile(const std::string& path) {
   if (Defaults().ConBackupPath.empty() || path.empty()) return;
+  const Boolean modified = conFile_->IsModified();
   ResumeNext([&] { MakeBackup(path); });
+  // The image in the backup folder is not the save: the file itself may still fail.
+  if (modified) conFile_->SetModified(true, nullptr);
 }
 
 void Shell::MakeBackup(const std::string& path) {
@@ -223,7 +226,6 @@ Boolean Shell::CloseConFile() {
   tree_.Clear();
   events_.Clear();
   bReadOnly_ = false;
-  badLabels.ClearBadLabels();
   ClearTables();
   UpdateCommandStates();
   return true;

@@ -115,7 +115,8 @@ void frmConvList::CommandStatesChanged() {
   setWindowTitle(QFile::decodeName(QByteArray::fromStdString(shell_.Caption())));
   statusText_.setText(QString::fromStdString(shell_.StatusText()));
   const bool open = predicates.fileOpen;
-  const bool cameOrWent = open == tvCons_.isHidden();
+  const bool cameOrWent = open != fileWasOpen_;
+  fileWasOpen_ = open;
   QPalette palette = QApplication::palette();
   if (!open) palette.setColor(QPalette::Window, Qt::black);
   client_.setPalette(palette);
@@ -156,7 +157,7 @@ void frmConvList::LastFilesChanged() {
 }
 
 void frmConvList::ShowTree(bool visible) {
-  if (!visible && tvCons_.isVisible()) treeHadFocus_ = tvCons_.hasFocus();
+  if (!visible) treeHadFocus_ = tvCons_.isVisible() && tvCons_.hasFocus();
   tvCons_.setVisible(visible);
   if (visible && treeHadFocus_) tvCons_.setFocus();
 }
@@ -187,7 +188,7 @@ void frmConvList::StoreDefaults() {
     defaults.MainTop = TwipsFromPixels(place.top());
     defaults.MainWidth = TwipsFromPixels(place.width());
     defaults.MainHeight = TwipsFromPixels(place.height());
-    defaults.SplitterPos = static_cast<std::int16_t>(splitterLeft_);
+    defaults.SplitterPos = StoredTwips(splitterLeft_);
   }
   defaults.ToolBarEnabled = Command(QStringLiteral("mnuViewToolbar"))->isChecked();
   defaults.StatusBarEnabled = Command(QStringLiteral("mnuViewStatusBar"))->isChecked();

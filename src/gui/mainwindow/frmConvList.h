@@ -127,7 +127,7 @@ class frmConvList : public QMainWindow,
   void ShowTreePopup(QPoint globalPosition);
   void TreeKeyReleased(int key, Qt::KeyboardModifiers modifiers);
   void ListKeyPressed(QKeyEvent* event);
-  void ShowListPopup(QPoint globalPosition);
+  void ShowListPopup(QPoint globalPosition, bool byMouse);
   void SelectionOfListChanged();
   void ToggleExpandList();
   void ToggleShowAudioFiles();
@@ -186,6 +186,7 @@ class frmConvList : public QMainWindow,
   bool laidOut_ = false;          ///< The window has its size, so the splitter may be held to it.
   bool searchedQuickly_ = false;  ///< The last search was that of the quick box.
   bool treeHadFocus_ = false;     ///< When the tree was hidden for a while.
+  bool fileWasOpen_ = false;      ///< When the commands were last brought up to date.
 };
 
 }  // namespace parlate

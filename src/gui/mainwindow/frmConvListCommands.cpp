@@ -144,10 +144,11 @@ void frmConvList::ListKeyPressed(QKeyEvent* event) {
   }
 }
 
-void frmConvList::ShowListPopup(QPoint globalPosition) {
+void frmConvList::ShowListPopup(QPoint globalPosition, bool byMouse) {
   ApplyStates(shell_.EventPopupStates());
   mnuEventPopup_.popup(globalPosition);
-  shell_.bSkipNextClick = true;
+  // After the keyboard's popup no click is due, so the next one is a click on its row.
+  if (byMouse) shell_.bSkipNextClick = true;
 }
 
 void frmConvList::ToggleExpandList() {

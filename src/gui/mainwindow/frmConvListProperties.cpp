@@ -55,10 +55,8 @@ bool frmConvList::event(QEvent* event) {
 }
 
 void frmConvList::FocusFindBox() {
-  if (!tlbCon_.isVisible()) {
-    Command("mnuViewToolbar")->setChecked(true);
-    ApplyToolbarVisible();
-  }
+  // A toolbar that the user hid stays hidden; the dialog comes alone.
+  if (tlbCon_.isHidden()) return;
   // In a window too narrow for the box nothing may be typed into the tree, where letters cut.
   if (!cboFind_.isVisible()) {
     lstEvents_.setFocus();

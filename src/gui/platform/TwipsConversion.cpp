@@ -19,8 +19,8 @@ Integer Nearest(double value) {
 
 int PixelsFromTwips(double twips) { return Nearest<int>(twips / kTwipsPerPixel); }
 
-std::int16_t TwipsFromPixels(double pixels) {
-  return Nearest<std::int16_t>(pixels * kTwipsPerPixel);
-}
+std::int16_t StoredTwips(double twips) { return Nearest<std::int16_t>(twips); }
+
+std::int16_t TwipsFromPixels(double pixels) { return StoredTwips(pixels * kTwipsPerPixel); }
 
 }  // namespace parlate

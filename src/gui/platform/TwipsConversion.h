@@ -11,9 +11,12 @@ inline constexpr int kTwipsPerPixel = 15;
 /// The nearest whole pixel; of two equally near ones the even one.
 [[nodiscard]] int PixelsFromTwips(double twips);
 
-/// The nearest whole twip; of two equally near ones the even one. Twips are signed 16-bit numbers,
-/// and what lies beyond them stops at -32768 or 32767: a window on a far screen is stored as near
-/// to its place as can be.
+/// Stored twips are signed 16-bit numbers, and what lies beyond them stops at -32768 or 32767: a
+/// window on a far screen is stored as near to its place as can be. The nearest whole twip; of two
+/// equally near ones the even one.
+[[nodiscard]] std::int16_t StoredTwips(double twips);
+
+/// The same from pixels.
 [[nodiscard]] std::int16_t TwipsFromPixels(double pixels);
 
 }  // namespace parlate

@@ -7,6 +7,31 @@
 
 namespace parlate {
 
+namespace {
+
+/// Keys that move to a node or mark the current one.
+bool SelectsNodes(const QKeyEvent& event) {
+  if ((event.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) return false;
+  switch (event.key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+    case Qt::Key_Space:
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool GoesToTheEnd(const QKeyEvent& event) {
+  return event.key() == Qt::Key_End || event.key() == Qt::Key_PageDown;
+}
+
+}  // namespace
+
 ConversationTreeView::ConversationTreeView(ConversationTreeModel& model, QWidget* parent)
     : QTreeView(parent), model_(model) {
   setModel(&model_);
@@ -76,8 +101,11 @@ void ConversationTreeView::mousePressEvent(QMouseEvent* event) {
   if (event->button() == Qt::RightButton) return;
   currentMoved_ = false;
   QTreeView::mousePressEvent(event);
-  const QModelIndex pressed = indexAt(event->position().toPoint());
+  const QPoint at = event->position().toPoint();
+  const QModelIndex pressed = indexAt(at);
   if (currentMoved_ || !pressed.isValid() || pressed != currentIndex()) return;
+  // Ahead of the node stands the sign that opens and closes it, which is no part of it.
+  if (!visualRect(pressed).contains(at)) return;
   model_.Tree().SetSelectedItem(model_.NodeAt(pressed));
   emit nodeClicked(model_.NodeAt(pressed));
 }
@@ -105,7 +133,19 @@ void ConversationTreeView::contextMenuEvent(QContextMenuEvent* event) {
 
 void ConversationTreeView::keyPressEvent(QKeyEvent* event) {
   if (!event->isAutoRepeat()) pressedKeys_.insert(event->key());
+  // With nothing selected the base class would step off the first node and never select it.
+  const bool begins = model_.Tree().SelectedItem() == nullptr && SelectsNodes(*event);
+  if (begins && TakeCurrentNode() && !GoesToTheEnd(*event)) return;
   QTreeView::keyPressEvent(event);
+}
+
+bool ConversationTreeView::TakeCurrentNode() {
+  const QModelIndex current = currentIndex();
+  TreeNode* node = model_.NodeAt(current.isValid() ? current : model_.index(0, 0, {}));
+  if (node == nullptr) return false;
+  model_.Tree().SetSelectedItem(node);
+  emit nodeClicked(node);
+  return true;
 }
 
 void ConversationTreeView::keyReleaseEvent(QKeyEvent* event) {

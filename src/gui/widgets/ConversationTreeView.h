@@ -47,6 +47,8 @@ class ConversationTreeView final : public QTreeView {
   void ShowSelectedItem();
   void RevealSelectedItem();
   void SetNodeExpanded(const QModelIndex& index, bool expanded);
+  /// Selects the node that the keys start from; false with no node.
+  bool TakeCurrentNode();
 
   ConversationTreeModel& model_;
   bool following_ = false;     ///< The view follows the nodes, so a change is not the user's.

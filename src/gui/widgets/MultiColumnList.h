@@ -89,7 +89,7 @@ class MultiColumnList : public QAbstractScrollArea, private ListRowsListener {
   /// A key that the list has no use for. The event is ignored unless a slot accepts it.
   void keyPressedInList(QKeyEvent* event);
   /// The right button was released, or the menu key or Shift+F10 pressed.
-  void contextMenuRequestedAt(QPoint globalPosition);
+  void contextMenuRequestedAt(QPoint globalPosition, bool byMouse);
   void columnWidthChanged();
 
  protected:

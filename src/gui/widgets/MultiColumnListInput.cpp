@@ -29,7 +29,7 @@ void MultiColumnList::mousePressEvent(QMouseEvent* event) {
 
 void MultiColumnList::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() == Qt::RightButton) {
-    emit contextMenuRequestedAt(event->globalPosition().toPoint());
+    emit contextMenuRequestedAt(event->globalPosition().toPoint(), true);
     return;
   }
   if (event->button() != Qt::LeftButton) {
@@ -71,7 +71,7 @@ void MultiColumnList::RequestContextMenuByKey() {
     EnsureVisible(rows_.ListIndex());
     position.setY(RowRect(rows_.ListIndex()).top() + SingleLineHeight());
   }
-  emit contextMenuRequestedAt(viewport()->mapToGlobal(position));
+  emit contextMenuRequestedAt(viewport()->mapToGlobal(position), false);
 }
 
 void MultiColumnList::keyPressEvent(QKeyEvent* event) {

@@ -17,21 +17,30 @@ using ShellClose = ShellTest;
 TEST_F(ShellClose, LeavesNothingOfTheFile) {
   OpenHarbour();
   Click("C0");
-  ConOf(2).events.Place(1)->As<EventJump>()->label = "Nowhere";
-  Click("C2");
-  ASSERT_FALSE(Window().badLabels.colBadLabels.empty());
   EXPECT_TRUE(Window().CloseConFile());
   EXPECT_EQ(Window().GetConFile(), nullptr);
   EXPECT_EQ(Window().conFileName, "");
   EXPECT_EQ(Window().SelectedCon(), nullptr);
   EXPECT_THAT(TreeLines(), IsEmpty());
   EXPECT_THAT(RowTexts(), IsEmpty());
-  EXPECT_TRUE(Window().badLabels.colBadLabels.empty());
   for (std::int32_t type = kActorTable; type <= kMissionTable; ++type) {
     EXPECT_EQ(GetTable(type)->Count(), 0U);
   }
   EXPECT_EQ(Window().GetVersionNum(), -1);
   EXPECT_FALSE(FileExists(Path("harbour.lck")));
+}
+
+TEST_F(ShellClose, LeavesTheBrokenLabelsToTheNextLabelCheck) {
+  OpenHarbour();
+  ConOf(2).events.Place(1)->As<EventJump>()->label = "Nowhere";
+  Click("C2");
+  const std::size_t reported = Window().badLabels.colBadLabels.size();
+  ASSERT_GT(reported, 0U);
+  EXPECT_TRUE(Window().CloseConFile());
+  EXPECT_EQ(Window().badLabels.colBadLabels.size(), reported);
+  OpenHarbour();
+  EXPECT_TRUE(Window().ShowMissingLabels(false, true));
+  EXPECT_THAT(Window().badLabels.colBadLabels, IsEmpty());
 }
 
 TEST_F(ShellClose, WithNoFileOpenIsTrueAtOnce) {

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "general/Paths.h"
 #include "support/FileBytes.h"
 #include "support/ShellFixture.h"
 
@@ -10,13 +11,36 @@ namespace {
 
 using namespace testing_support;
 
-class ShellFaults : public ShellTest {
+enum class Backups { Off, On };
+
+/// With a backup folder the image there is written first, and must not pass for the save itself.
+class ShellFaults : public ShellTest, public testing::WithParamInterface<Backups> {
  protected:
-  ShellFaults() { OpenHarbour(); }
+  ShellFaults() {
+    if (WithBackups()) Defaults().ConBackupPath = backups_.Path();
+    OpenHarbour();
+  }
+  [[nodiscard]] static bool WithBackups() { return GetParam() == Backups::On; }
   void Change() { Window().SetModified(true, nullptr); }
+  void ExpectThatLeavingAsks() {
+    EXPECT_TRUE(Window().GetConFile()->IsModified());
+    program_.messages.Expect(Answer::No);
+    EXPECT_TRUE(Window().CloseConFile());
+    EXPECT_EQ(LastBox().title, "Save Changes?");
+  }
+  void ExpectBackup(const std::string& name) const {
+    EXPECT_EQ(FileExists(backups_.File(name)), WithBackups());
+  }
+
+  TemporaryFolder backups_;
 };
 
-TEST_F(ShellFaults, AFileRemovedWhileItIsOpenIsWrittenAnew) {
+INSTANTIATE_TEST_SUITE_P(, ShellFaults, testing::Values(Backups::Off, Backups::On),
+                         [](const auto& test) {
+                           return test.param == Backups::On ? "WithBackups" : "WithoutBackups";
+                         });
+
+TEST_P(ShellFaults, AFileRemovedWhileItIsOpenIsWrittenAnew) {
   const std::string path = Path("harbour.con");
   Change();
   ASSERT_TRUE(Window().SaveConFile(false));
@@ -24,29 +48,31 @@ TEST_F(ShellFaults, AFileRemovedWhileItIsOpenIsWrittenAnew) {
   std::filesystem::remove(path);
   EXPECT_TRUE(Window().SaveConFile(false));
   EXPECT_EQ(ReadBytes(path), saved);
+  EXPECT_FALSE(Window().GetConFile()->IsModified());
   EXPECT_EQ(BoxCount(), 0U);
+  ExpectBackup("harbour.con");
 }
 
-TEST_F(ShellFaults, AFolderRemovedWhileItsFileIsOpenIsToldAndTheFileStaysChanged) {
+TEST_P(ShellFaults, AFolderRemovedWhileItsFileIsOpenIsToldAndTheFileStaysChanged) {
   Change();
   std::filesystem::remove_all(folder_.Path());
   program_.messages.Expect(Answer::Ok);
   EXPECT_FALSE(Window().SaveConFile(false));
   EXPECT_THAT(LastBox(), SaysPlainly("Error 76: Path not found"));
-  EXPECT_TRUE(Window().GetConFile()->IsModified());
+  ExpectBackup("harbour.con");
+  ExpectThatLeavingAsks();
 }
 
-TEST_F(ShellFaults, AFullDiskEndsTheWritingWithoutAWordAndTheFileStaysChanged) {
+TEST_P(ShellFaults, AFullDiskEndsTheWritingWithoutAWordAndTheFileStaysChanged) {
   Change();
   Window().conFileName = "/dev/full";
   EXPECT_TRUE(Window().SaveConFile(false)) << "a save that broke off counts as written";
   EXPECT_EQ(BoxCount(), 0U);
-  EXPECT_TRUE(Window().GetConFile()->IsModified()) << "so that leaving asks";
-  program_.messages.Expect(Answer::No);
-  EXPECT_TRUE(Window().CloseConFile());
+  ExpectBackup("full");
+  ExpectThatLeavingAsks();
 }
 
-TEST_F(ShellFaults, AFolderInPlaceOfAFileIsToldAndNothingIsOpen) {
+TEST_P(ShellFaults, AFolderInPlaceOfAFileIsToldAndNothingIsOpen) {
   const std::string folder = Path("folder.con");
   std::filesystem::create_directory(folder);
   program_.messages.Expect(Answer::Ok);

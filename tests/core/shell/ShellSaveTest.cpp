@@ -1,5 +1,7 @@
 // Saving: what stops it, the dialog for a new name, and what reaches the disk.
 
+#include <algorithm>
+#include <cstddef>
 #include <filesystem>
 
 #include "general/Paths.h"
@@ -212,6 +214,12 @@ class ShellBackup : public ShellTest {
     Window().GetConFile()->notes = notes;
     EXPECT_TRUE(Window().SaveConFile(false));
   }
+  /// Each writing begins with the tables.
+  [[nodiscard]] std::ptrdiff_t FilesWrittenBySave() {
+    program_.progress.texts.clear();
+    SaveWithNotes("first");
+    return std::ranges::count(program_.progress.texts, "Tables");
+  }
 };
 
 TEST_F(ShellBackup, IsTheImageOfTheSaveAndTheOneBeforeEndsInBak) {
@@ -230,11 +238,46 @@ TEST_F(ShellBackup, IsTheImageOfTheSaveAndTheOneBeforeEndsInBak) {
   EXPECT_EQ(ReadBytes(Kept("harbour.bak")), second) << "there are two generations, no more";
 }
 
+TEST_F(ShellBackup, IsWrittenOnceMoreThanTheFile) {
+  OpenHarbour();
+  EXPECT_EQ(FilesWrittenBySave(), 2);
+}
+
 TEST_F(ShellBackup, IsNotTakenWithoutAFolder) {
   Defaults().ConBackupPath.clear();
   OpenHarbour();
-  SaveWithNotes("first");
+  // With no folder ahead of it the file's name alone would lie where the program was started.
+  const std::string here = Path("here");
+  std::filesystem::create_directory(here);
+  const std::filesystem::path before = std::filesystem::current_path();
+  std::filesystem::current_path(here);
+  EXPECT_EQ(FilesWrittenBySave(), 1);
+  std::filesystem::current_path(before);
+  EXPECT_TRUE(std::filesystem::is_empty(here));
   EXPECT_FALSE(FolderExists(Path("backup")));
+}
+
+TEST_F(ShellBackup, LeavesTheFileChangedUntilItIsWrittenItself) {
+  OpenHarbour();
+  Window().SetModified(true, nullptr);
+  SaveWithNotes("first");
+  EXPECT_FALSE(Window().GetConFile()->IsModified());
+  Window().SetModified(true, nullptr);
+  std::filesystem::create_directory(Path("folder.con"));
+  Window().conFileName = Path("folder.con");
+  program_.messages.Expect(Answer::Ok);
+  EXPECT_FALSE(Window().SaveConFile(false));
+  EXPECT_TRUE(FileExists(Kept("folder.con")));
+  EXPECT_TRUE(Window().GetConFile()->IsModified());
+}
+
+TEST_F(ShellBackup, MarksNothingAsChangedThatWasNot) {
+  OpenHarbour();
+  std::filesystem::create_directory(Path("folder.con"));
+  Window().conFileName = Path("folder.con");
+  program_.messages.Expect(Answer::Ok);
+  EXPECT_FALSE(Window().SaveConFile(false));
+  EXPECT_FALSE(Window().GetConFile()->IsModified());
 }
 
 TEST_F(ShellBackup, GoesBesideTheFolderWhenTheSettingLacksItsSeparator) {

@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
 #include <QStatusBar>
@@ -31,6 +32,38 @@ TEST_F(MainWindow, ConfirmingABlankNameAtTheFirstStartGoesOn) {
   });
   EXPECT_TRUE(program.Start());
   EXPECT_TRUE(program.Window().isVisible());
+}
+
+TEST_F(MainWindow, ANameLeftBlankIsAskedForAgainAtTheNextStart) {
+  RunningProgram first("");
+  WhenFormShows("frmSettings", [](QWidget& form) {
+    QTest::mouseClick(form.findChild<QPushButton*>("cmdOK"), Qt::LeftButton);
+  });
+  ASSERT_TRUE(first.Start());
+  EXPECT_TRUE(first.Close());
+  RunningProgram second("");
+  second.settings.values = first.settings.values;
+  bool asked = false;
+  WhenFormShows("frmSettings", [&asked](QWidget& form) {
+    asked = true;
+    QTest::mouseClick(form.findChild<QPushButton*>("cmdCancel"), Qt::LeftButton);
+  });
+  EXPECT_FALSE(second.Start());
+  EXPECT_TRUE(asked);
+}
+
+TEST_F(MainWindow, ANameGivenAtTheFirstStartIsNotAskedForAgain) {
+  RunningProgram first("");
+  WhenFormShows("frmSettings", [](QWidget& form) {
+    QTest::keyClicks(form.findChild<QWidget*>("txtUsername"), "Ada");
+    QTest::mouseClick(form.findChild<QPushButton*>("cmdOK"), Qt::LeftButton);
+  });
+  ASSERT_TRUE(first.Start());
+  EXPECT_TRUE(first.Close());
+  EXPECT_EQ(first.settings.values["Username"], "Ada");
+  RunningProgram second("");
+  second.settings.values = first.settings.values;
+  EXPECT_TRUE(second.Start());
 }
 
 TEST_F(MainWindow, WithoutAFileShowsThePictureOnBlackAndNoPanes) {
@@ -103,31 +136,24 @@ TEST_F(MainWindow, StoresItsRectangleInTwipsAndItsCheckMarksAtExit) {
   EXPECT_EQ(program.settings.values["EventLeft"], "-1");
 }
 
-TEST_F(MainWindow, DroppingTheSplitterAt600LeavesItAt1500) {
-  const std::string path = PutSampleFile(28);
-  RunningProgram program;
-  ASSERT_TRUE(program.Start(path));
-  auto& strip = program.Find<QWidget>("imgSplitter");
-  auto& bar = program.Find<QWidget>("picSplitter");
-  const int left = strip.x();
-  QTest::mousePress(&strip, Qt::LeftButton, {}, {0, 10});
-  EXPECT_TRUE(bar.isVisible());
-  QTest::mouseMove(&strip, {40 - left, 10});  // 600 twips from the window's edge
-  EXPECT_EQ(bar.x(), 40);
-  QTest::mouseMove(&strip, {10 - left, 10});  // 150 twips: the bar stops at 500
-  EXPECT_EQ(bar.x(), 33);
-  QTest::mouseMove(&strip, {40 - left, 10});
-  QTest::mouseRelease(&strip, Qt::LeftButton, {}, {40 - left, 10});
-  EXPECT_FALSE(bar.isVisible());
-  EXPECT_EQ(strip.x(), 100);
-  EXPECT_EQ(program.Tree().width(), 93);  // 1500 less 100 twips
-}
-
 TEST_F(MainWindow, CannotBeMadeNarrowerThan3000Twips) {
   RunningProgram program;
   ASSERT_TRUE(program.Start());
   program.Window().resize(50, 300);
   EXPECT_EQ(program.Window().width(), 200);
+}
+
+TEST_F(MainWindow, CanBeMadeAsLowAsItsBars) {
+  const std::string path = PutSampleFile(28);
+  RunningProgram program;
+  ASSERT_TRUE(program.Start(path));
+  program.Window().resize(700, 10);
+  EXPECT_EQ(program.Window().width(), 700);
+  const int bars = program.Window().menuBar()->height() +
+                   program.Find<QToolBar>("tlbCon").height() +
+                   program.Window().statusBar()->height();
+  EXPECT_LE(program.Window().height(), bars + 10) << "the panes ask for no height";
+  EXPECT_LE(program.Window().height(), 130);
 }
 
 TEST_F(MainWindow, HidesTheToolbarAndStatusBarAsTheirMarksSay) {
@@ -157,6 +183,33 @@ TEST_F(MainWindow, ListHasItsHeadsAndNoRowTallerThanALineWhenItIsNotExpanded) {
   EXPECT_FALSE(program.workspace.defaults.ExpandListEnabled);
 }
 
+TEST_F(MainWindow, TheViewTogglesAreOnAtFirstAndShowAtOnce) {
+  const std::string path = PutSampleFile(28);
+  RunningProgram program;
+  ASSERT_TRUE(program.Start(path));
+  for (const char* toggle :
+       {"mnuViewToolbar", "mnuViewStatusBar", "mnuViewExpandList", "mnuViewShowAudioFiles"}) {
+    EXPECT_TRUE(program.Window().Command(toggle)->isChecked()) << toggle;
+  }
+  program.ClickNode("C0");
+  const auto speech = [&program]() -> const ListRow& { return program.Events().Rows().Row(0); };
+  EXPECT_EQ(speech().text, "Start;Speech;Maya \xE9;hello.mp3");
+  EXPECT_EQ(speech().subText, "Hello\r\nthere");
+  program.Choose("mnuViewShowAudioFiles");
+  EXPECT_EQ(speech().text, "Start;Speech;Maya \xE9;");
+  EXPECT_FALSE(program.workspace.defaults.bShowAudioFiles);
+  program.Choose("mnuViewShowAudioFiles");
+  EXPECT_EQ(speech().text, "Start;Speech;Maya \xE9;hello.mp3");
+  EXPECT_TRUE(program.workspace.defaults.bShowAudioFiles);
+  program.Choose("mnuViewExpandList");
+  EXPECT_EQ(speech().text, "Start;Speech;Maya \xE9;Hello\r\nthere");
+  EXPECT_EQ(speech().subText, "");
+  EXPECT_FALSE(program.workspace.defaults.ExpandListEnabled);
+  program.Choose("mnuViewExpandList");
+  EXPECT_EQ(speech().subText, "Hello\r\nthere");
+  EXPECT_TRUE(program.workspace.defaults.ExpandListEnabled);
+}
+
 TEST_F(MainWindow, ASecondClickOnARowDeselectsItAndTheNextSelectsItAgain) {
   const std::string path = PutSampleFile(28);
   RunningProgram program;
@@ -184,6 +237,27 @@ TEST_F(MainWindow, ARightClickAndThenALeftOneOnTheSameRowKeepTheSelection) {
   popup.close();
   program.ClickRow(1);
   EXPECT_EQ(program.Events().Rows().ListIndex(), 1);
+}
+
+TEST_F(MainWindow, AfterTheKeyboardsPopupAClickOnTheSelectedRowDeselectsIt) {
+  const std::string path = PutSampleFile(28);
+  RunningProgram program;
+  ASSERT_TRUE(program.Start(path));
+  program.ClickNode("C0");
+  auto& popup = program.Find<QMenu>("mnuEventPopup");
+  const struct {
+    Qt::Key key;
+    Qt::KeyboardModifiers modifiers;
+  } wishes[] = {{Qt::Key_Menu, Qt::NoModifier}, {Qt::Key_F10, Qt::ShiftModifier}};
+  for (const auto& wish : wishes) {
+    program.ClickRow(1);
+    ASSERT_EQ(program.Events().Rows().ListIndex(), 1);
+    QTest::keyClick(&program.Events(), wish.key, wish.modifiers);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return popup.isVisible(); }));
+    popup.close();
+    program.ClickRow(1);
+    EXPECT_EQ(program.Events().Rows().ListIndex(), -1);
+  }
 }
 
 TEST_F(MainWindow, DeleteInTheListAsksAndThenSelectsTheRowThatMovedUp) {
@@ -216,163 +290,25 @@ TEST_F(MainWindow, CancellingTheQuestionAboutChangesKeepsTheWindowOpen) {
   EXPECT_TRUE(program.Close());
 }
 
-TEST_F(MainWindow, ARefusedNameInTheTreeTellsWhyOnceAndTheOldOneStands) {
-  const std::string path = PutSampleFile(28);
-  RunningProgram program;
-  ASSERT_TRUE(program.Start(path));
-  const struct {
-    const char* typed;
-    const char* message;
-  } refusals[] = {
-      {"two words",
-       "Conversation names can only consist of letters, digits, underscore (_) and dash (-)."},
-      {"LEAVING", "Conversation Name already in use, please choose another name."},
-      {"", "Conversation Names Cannot Be Blank!"},
-  };
-  for (const auto& refusal : refusals) {
-    QLineEdit* editor = program.EditNode("C0");
-    ASSERT_NE(editor, nullptr);
-    editor->selectAll();
-    QTest::keyClick(editor, Qt::Key_Delete);
-    QTest::keyClicks(editor, refusal.typed);
-    program.messages.Expect(Answer::Ok);
-    QTest::keyClick(editor, Qt::Key_Return);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return program.Tree().findChild<QLineEdit*>() == nullptr; }));
-    EXPECT_EQ(program.messages.shown.back().text, refusal.message);
-    EXPECT_EQ(program.shell().tvCons().FindNode("C0")->text, "Greeting");
-  }
-  EXPECT_EQ(program.messages.shown.size(), 3U);
-}
-
-TEST_F(MainWindow, ActorsAndFlagsCannotBeRenamed) {
-  const std::string path = PutSampleFile(28);
-  RunningProgram program;
-  ASSERT_TRUE(program.Start(path));
-  EXPECT_EQ(program.EditNode("A1"), nullptr);
-  program.shell().ExpandTreeNodes(true, program.shell().tvCons().FindNode("C0"));
-  EXPECT_EQ(program.EditNode("F2,0"), nullptr);
-}
-
-TEST_F(MainWindow, ACharacterOutsideTheCodePageShowsAtOnceAsAQuestionMark) {
-  const std::string path = PutSampleFile(28);
-  RunningProgram program;
-  ASSERT_TRUE(program.Start(path));
-  QLineEdit* editor = program.EditNode("C0");
-  ASSERT_NE(editor, nullptr);
-  editor->selectAll();
-  QApplication::clipboard()->setText(QString::fromUtf8("a\u0436b"));
-  QTest::keyClick(editor, Qt::Key_V, Qt::ControlModifier);
-  EXPECT_EQ(editor->text(), "a?b");
-  QTest::keyClick(editor, Qt::Key_Escape);
-}
-
-TEST_F(MainWindow, ClickingAnActorEmptiesTheListAndAFlagShowsItsConversation) {
-  const std::string path = PutSampleFile(28);
-  RunningProgram program;
-  ASSERT_TRUE(program.Start(path));
-  program.ClickNode("C0");
-  EXPECT_TRUE(program.Enabled("mnuEventsAdd"));
-  program.ClickNode("A0");
-  EXPECT_EQ(program.Events().Rows().ListCount(), 0U);
-  EXPECT_FALSE(program.Enabled("mnuEventsAdd"));
-  program.shell().ExpandTreeNodes(true, program.shell().tvCons().FindNode("C0"));
-  program.ClickNode("F3,0");
-  EXPECT_EQ(program.Events().Rows().ListCount(), 23U);
-}
-
-TEST_F(MainWindow, TypingCCopiesTheConversationAndVPastesIt) {
-  const std::string path = PutSampleFile(28);
-  RunningProgram program;
-  ASSERT_TRUE(program.Start(path));
-  program.ClickNode("C7");
-  QTest::keyClick(&program.Tree(), Qt::Key_C);
-  QTest::keyClick(&program.Tree(), Qt::Key_V, Qt::ControlModifier);
-  EXPECT_EQ(program.shell().GetConFile()->Conversations.Count(), 3U);
-  EXPECT_EQ(program.shell().SelectedCon()->key, 12);
-}
-
-TEST_F(MainWindow, TheTreesPopupIsForTheSelectedNodeNotTheOneUnderTheMouse) {
-  const std::string path = PutSampleFile(28);
-  RunningProgram program;
-  ASSERT_TRUE(program.Start(path));
-  program.ClickNode("C0");
-  program.ClickNode("A0", Qt::RightButton);
-  auto& popup = program.Find<QMenu>("mnuConPopup");
-  ASSERT_TRUE(QTest::qWaitFor([&] { return popup.isVisible(); }));
-  EXPECT_EQ(program.shell().tvCons().SelectedItem()->Key(), "C0");
-  for (const char* live : {"mnuConPopupDelete", "mnuConPopupProperties", "mnuConPopupPrint",
-                           "mnuConPopupExpandFlags", "mnuConPopupCut", "mnuConPopupCopy"}) {
-    EXPECT_TRUE(program.Enabled(live)) << live;
-  }
-  EXPECT_FALSE(program.Enabled("mnuConPopupPaste"));
-  popup.close();
-}
-
-TEST_F(MainWindow, TheFlagPopupTurnsTheFlagAndMarksNothingAsChanged) {
-  const std::string path = PutSampleFile(28);
-  RunningProgram program;
-  ASSERT_TRUE(program.Start(path));
-  program.shell().ExpandTreeNodes(true, program.shell().tvCons().FindNode("C0"));
-  program.ClickNode("F2,0");
-  program.ClickNode("F2,0", Qt::RightButton);
-  auto& popup = program.Find<QMenu>("mnuFlagPopup");
-  ASSERT_TRUE(QTest::qWaitFor([&] { return popup.isVisible(); }));
-  popup.close();
-  program.Choose("mnuFlagPopupToggle");
-  EXPECT_EQ(program.shell().tvCons().FindNode("F2,0")->Text(), "Door = False");
-  EXPECT_FALSE(program.shell().GetConFile()->IsModified());
-  EXPECT_TRUE(program.Close());
-}
-
-TEST_F(MainWindow, CtrlFBringsAHiddenToolbarBackForItsBox) {
+TEST_F(MainWindow, CtrlFLeavesAHiddenToolbarHiddenAndOpensTheDialogAlone) {
   const std::string path = PutSampleFile(28);
   RunningProgram program;
   ASSERT_TRUE(program.Start(path));
   program.Choose("mnuViewToolbar");
-  WhenFormShows("frmFind", [](QWidget& form) { form.close(); });
-  program.Press(Qt::Key_F, Qt::ControlModifier);
-  program.Activate();
-  EXPECT_TRUE(program.Find<QToolBar>("tlbCon").isVisible());
-  EXPECT_TRUE(program.Find<QComboBox>("cboFind").hasFocus());
-}
-
-TEST_F(MainWindow, CollapseAllClosesTheActorOfTheSelectedConversationToo) {
-  const std::string path = PutSampleFile(28);
-  RunningProgram program;
-  ASSERT_TRUE(program.Start(path));
-  program.ClickNode("C0");
   program.Tree().setFocus();
-  program.Choose("mnuConCollapseAll");
-  QTest::qWait(50);  // scrolling to the selected node would come late
-  const QModelIndex actor = program.Tree().model()->index(0, 0);
-  EXPECT_FALSE(program.Tree().isExpanded(actor));
+  bool came = false;
+  WhenFormShows("frmFind", [&came](QWidget& form) {
+    came = true;
+    form.close();
+  });
+  program.Press(Qt::Key_F, Qt::ControlModifier);
+  EXPECT_TRUE(came);
+  program.Activate();
+  EXPECT_FALSE(program.Find<QToolBar>("tlbCon").isVisible());
+  EXPECT_FALSE(program.Window().Command("mnuViewToolbar")->isChecked());
   EXPECT_TRUE(program.Tree().hasFocus());
-  program.Choose("mnuConExpandAll");
-  EXPECT_TRUE(program.Tree().isExpanded(actor));
-}
-
-TEST_F(MainWindow, PutsTheSplitterWhereItWas) {
-  const std::string path = PutSampleFile(28);
-  RunningProgram program;
-  program.settings.values["SplitterPos"] = "9000";
-  program.settings.values["MainLeft"] = "0";
-  ASSERT_TRUE(program.Start(path));
-  EXPECT_EQ(program.Find<QWidget>("imgSplitter").x(), 600);
   EXPECT_TRUE(program.Close());
-  EXPECT_EQ(program.settings.values["SplitterPos"], "9000");
-}
-
-TEST_F(MainWindow, KeysMoveTheSplitter) {
-  const std::string path = PutSampleFile(28);
-  RunningProgram program;
-  ASSERT_TRUE(program.Start(path));
-  auto& strip = program.Find<QWidget>("imgSplitter");
-  const int left = strip.x();
-  strip.setFocus();
-  QTest::keyClick(&strip, Qt::Key_Right);
-  EXPECT_EQ(strip.x(), left + 10);
-  QTest::keyClick(&strip, Qt::Key_Left);
-  EXPECT_EQ(strip.x(), left);
+  EXPECT_EQ(program.settings.values["ToolBarEnabled"], "False");
 }
 
 TEST_F(MainWindow, AWindowStoredForALargerScreenComesBackWhole) {
@@ -387,18 +323,6 @@ TEST_F(MainWindow, AWindowStoredForALargerScreenComesBackWhole) {
   constexpr int kFrame = 2;  // of the platform that the tests run on
   EXPECT_LE(placed.right(), room.right() + kFrame);
   EXPECT_LE(placed.bottom(), room.bottom() + kFrame);
-}
-
-TEST_F(MainWindow, ANameLeftAsItWasMarksNothingAndTabStaysOnTheNode) {
-  const std::string path = PutSampleFile(28);
-  RunningProgram program;
-  ASSERT_TRUE(program.Start(path));
-  QLineEdit* editor = program.EditNode("C0");
-  ASSERT_NE(editor, nullptr);
-  QTest::keyClick(editor, Qt::Key_Tab);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return program.Tree().findChild<QLineEdit*>() == nullptr; }));
-  EXPECT_EQ(program.shell().SelectedCon()->key, 0);
-  EXPECT_FALSE(program.shell().GetConFile()->IsModified());
 }
 
 TEST_F(MainWindow, EscapeDeselectsTheRow) {

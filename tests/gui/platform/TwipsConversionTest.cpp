@@ -35,6 +35,9 @@ TEST(TwipsConversion, TwipsStopAtTheEndsOfSixteenBits) {
   EXPECT_EQ(TwipsFromPixels(100000), 32767);
   EXPECT_EQ(TwipsFromPixels(-2185), -32768);
   EXPECT_EQ(TwipsFromPixels(-100000), -32768);
+  EXPECT_EQ(StoredTwips(32767), 32767);
+  EXPECT_EQ(StoredTwips(33000), 32767);
+  EXPECT_EQ(StoredTwips(-40000), -32768);
 }
 
 TEST(TwipsConversion, EveryPixelOfAScreenComesBack) {

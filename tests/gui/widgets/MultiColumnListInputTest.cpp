@@ -82,6 +82,7 @@ TEST_F(MultiColumnListTest, TheRightButtonSelectsAtThePressAndAsksForTheMenuAtTh
   QTest::mouseRelease(Area(), Qt::RightButton, {}, MiddleOf(4));
   ASSERT_EQ(menu.count(), 1);
   EXPECT_EQ(menu[0][0].toPoint(), Area()->mapToGlobal(MiddleOf(4)));
+  EXPECT_TRUE(menu[0][1].toBool()) << "by the mouse";
 }
 
 // --- Selection ----------------------------------------------------------------------------------
@@ -239,6 +240,7 @@ TEST_F(MultiColumnListKeyTest, TheMenuKeyAndShiftF10AskForTheMenuAtTheSelectedRo
   for (const QList<QVariant>& request : menu) {
     const QPoint position = Area()->mapFromGlobal(request[0].toPoint());
     EXPECT_TRUE(list_.RowRect(2).adjusted(0, 0, 0, 1).contains(position));
+    EXPECT_FALSE(request[1].toBool()) << "not by the mouse";
   }
 }
 
