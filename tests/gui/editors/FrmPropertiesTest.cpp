@@ -519,6 +519,18 @@ TEST_F(FrmPropertiesTest, DeleteIsLiveWhileAFlagIsSelectedAndMovesTheSelectionOn
   EXPECT_FALSE(IsEnabled("cmdFlagRemove"));
 }
 
+TEST_F(FrmPropertiesTest, DeleteKeepsTheFocusWhileThereIsAFlag) {
+  ClickFlag(0);
+  auto& button = The<QPushButton>("cmdFlagRemove");
+  button.setFocus();
+  QTest::keyClick(&button, Qt::Key_Space);
+  EXPECT_THAT(FlagRows(), ElementsAre("Lamp;False"));
+  EXPECT_TRUE(button.hasFocus());
+  QTest::keyClick(&button, Qt::Key_Space);
+  EXPECT_TRUE(FlagRows().empty());
+  EXPECT_TRUE(FlagList().hasFocus());
+}
+
 TEST_F(FrmPropertiesTest, CancelAfterRemovingAFlagLeavesTheConversationsFlags) {
   ClickFlag(0);
   Click("cmdFlagRemove");
