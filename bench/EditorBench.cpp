@@ -104,6 +104,7 @@ struct Step {
 constexpr Step kSteps[] = {{"open a speech", 2, kSpeech, false},
                            {"next speech", 2, kSpeech, true},
                            {"open a check of flags, with its labels", 10, kCheckFlags, false},
+                           {"open a jump, with its labels", 10, kJump, false},
                            {"open a random jump, with its labels", 10, kRandomLabel, false}};
 
 /// Nothing if a conversation has no such event.
