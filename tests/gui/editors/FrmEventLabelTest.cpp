@@ -148,6 +148,7 @@ TEST_F(FrmEventLabel, OfANewEventIsKnownWhereTheEventIsStored) {
   Type("txtLabel", "here");
   program_.messages.Expect(Answer::Ok);
   Click("cmdUpdate");
+  ASSERT_EQ(program_.messages.shown.size(), 1U);
   EXPECT_EQ(LastBox().title, "Duplicate Label");
   EXPECT_THAT(KeysInOrder(1), ElementsAre(1));
 }
@@ -171,6 +172,7 @@ TEST_F(FrmEventLabel, OfTheConversationWhereANewEventIsStoredIsTaken) {
   Type("txtLabel", "stop");
   program_.messages.Expect(Answer::Ok);
   Click("cmdUpdate");
+  ASSERT_EQ(program_.messages.shown.size(), 1U);
   EXPECT_EQ(LastBox().title, "Duplicate Label");
   EXPECT_THAT(KeysInOrder(0), ElementsAre(1, 2, 3, 4, 5));
   EXPECT_THAT(KeysInOrder(1), IsEmpty());
