@@ -52,6 +52,17 @@ void ListRows::RemoveItem(std::size_t index) {
   if (wasSelected) listener_->ListIndexChanged();
 }
 
+void ListRows::RemoveSelectedItem() {
+  if (listIndex_ == -1) return;
+  const auto removed = static_cast<std::size_t>(listIndex_);
+  if (removed + 1 < rows_.size()) {
+    SetListIndex(listIndex_ + 1);
+  } else if (removed > 0) {
+    SetListIndex(listIndex_ - 1);
+  }
+  RemoveItem(removed);
+}
+
 void ListRows::Assign(std::vector<ListRow> rows) {
   const bool hadSelection = listIndex_ != -1;
   rows_ = std::move(rows);

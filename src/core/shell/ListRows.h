@@ -47,6 +47,9 @@ class ListRows {
   std::size_t InsertItem(ListRow row, std::size_t index);
   /// Removes a row; removing the selected row leaves no selection.
   void RemoveItem(std::size_t index);
+  /// Removes the selected row, if any, and selects the row that moved up, else the last one. On the
+  /// way there is never no selection as long as a row is left.
+  void RemoveSelectedItem();
   /// Replaces all rows at once and drops the selection: one reset instead of a call a row.
   void Assign(std::vector<ListRow> rows);
   void Clear() { Assign({}); }

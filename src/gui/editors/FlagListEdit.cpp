@@ -6,6 +6,14 @@
 
 namespace parlate {
 
+namespace {
+
+// A flag that was redirected to another row of its table may stand under its old key, but the rows
+// stand in the order of the flags.
+std::size_t PlaceOf(std::int32_t row) { return static_cast<std::size_t>(row) + 1; }
+
+}  // namespace
+
 void FlagListEdit::SetFlags(FlagList& flags) {
   flags_ = &flags;
   Populate();
@@ -25,15 +33,14 @@ bool FlagListEdit::Add(QWidget* owner) {
 void FlagListEdit::Delete() {
   const std::int32_t row = rows_.ListIndex();
   if (row == -1) return;
-  flags_->Remove(rows_.Row(static_cast<std::size_t>(row)).itemData);
-  rows_.RemoveItem(static_cast<std::size_t>(row));
-  ReselectListIndex(rows_, row);
+  flags_->Remove(flags_->KeyAt(PlaceOf(row)));
+  rows_.RemoveSelectedItem();
 }
 
 void FlagListEdit::Toggle() {
   const std::int32_t row = rows_.ListIndex();
   if (row == -1) return;
-  FlagRef& flag = flags_->At(rows_.Row(static_cast<std::size_t>(row)).itemData);
+  FlagRef& flag = *flags_->Place(PlaceOf(row));
   flag.bValue = !flag.bValue;
   Populate();
   rows_.SetListIndex(row);

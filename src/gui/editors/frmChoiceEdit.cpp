@@ -143,7 +143,9 @@ void frmChoiceEdit::RefreshChoiceOK() {
   cmdOK.setEnabled(!txtChoice.text().isEmpty() && (!skill || level));
 }
 
-void frmChoiceEdit::RefreshFlagDelete() { cmdFlagDelete.setEnabled(flagRows_.ListIndex() != -1); }
+void frmChoiceEdit::RefreshFlagDelete() {
+  EnableButton(cmdFlagDelete, flagRows_.ListIndex() != -1, lstFlags);
+}
 
 void frmChoiceEdit::RefreshSkillControls() {
   const bool wanted = chkSkill.isChecked();

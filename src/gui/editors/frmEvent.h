@@ -82,6 +82,8 @@ class frmEvent : public QDialog, public PanelHost {
   [[nodiscard]] bool IsLabelUnique();
   void CommitNewEvent();
   void CommitEditedEvent();
+  /// Stores the label, and tells the conversation of it if `bRegister`.
+  void UpdateEventLabel(EventItem& eventItem, bool bRegister);
   void UpdateEventObject(EventItem& eventItem);
   [[nodiscard]] std::string Label() const;
 

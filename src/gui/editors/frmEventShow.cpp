@@ -72,8 +72,8 @@ void frmEvent::RefreshUpdateButton() {
 }
 
 void frmEvent::RefreshNavButtons() {
-  cmdPrevEvent.setEnabled(doors_.shell.IsPreviousEvent());
-  cmdNextEvent.setEnabled(doors_.shell.IsNextEvent());
+  EnableButton(cmdPrevEvent, doors_.shell.IsPreviousEvent(), txtLabel);
+  EnableButton(cmdNextEvent, doors_.shell.IsNextEvent(), txtLabel);
 }
 
 void frmEvent::PopulateLabelCombo(ComboBox& cboLabels) {

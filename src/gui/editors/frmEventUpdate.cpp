@@ -18,6 +18,8 @@ std::string WithoutBlanksAround(const std::string& text) {
 std::string frmEvent::Label() const { return FromQString(txtLabel.text()); }
 
 void frmEvent::Update() {
+  // A new event goes to the conversation that is selected by now, and so does its label.
+  if (bEditMode_ != 1 && doors_.shell.SelectedCon()) currentCon_ = doors_.shell.SelectedCon();
   if (CheckLabelUnique()) {
     if (bEditMode_ == 1) {
       CommitEditedEvent();
@@ -52,6 +54,7 @@ void frmEvent::CommitNewEvent() {
   event->eventType = cboEvents.ListIndex();
   bEditMode_ = 1;
   currentEvent_ = event;
+  UpdateEventLabel(*event, true);
   UpdateEventObject(*event);
   doors_.shell.UpdateAddEvent(event, false);
 }
@@ -59,16 +62,22 @@ void frmEvent::CommitNewEvent() {
 void frmEvent::CommitEditedEvent() {
   // The main window may open another event on the way.
   const std::shared_ptr<EventItem> event = currentEvent_;
+  // One that was deleted under the open editor has no label in its conversation any more.
+  const bool isThere = currentCon_->events.Find(event->key) == event.get();
+  UpdateEventLabel(*event, isThere);
   UpdateEventObject(*event);
   doors_.shell.UpdateEditEvent(*event);
 }
 
-void frmEvent::UpdateEventObject(EventItem& eventItem) {
+void frmEvent::UpdateEventLabel(EventItem& eventItem, bool bRegister) {
   const std::string label = WithoutBlanksAround(Label());
   txtLabel.setText(ToQString(label));
   eventItem.eventLabel = label;
-  currentCon_->UpdateLabel(oldLabel_, label);
+  if (bRegister) currentCon_->UpdateLabel(oldLabel_, label);
   oldLabel_ = label;
+}
+
+void frmEvent::UpdateEventObject(EventItem& eventItem) {
   lastSpeakers_ = {};
   Panel(eventItem.eventType).UpdateEvent(eventItem);
   if (const auto* speech = eventItem.As<EventSpeech>()) {

@@ -9,6 +9,7 @@
 #include "model/TableCombos.h"
 #include "model/Tables.h"
 #include "model/TextNumbers.h"
+#include "platform/FormControls.h"
 #include "widgets/CodePageText.h"
 
 namespace parlate {
@@ -110,7 +111,9 @@ void frmProperties::RefreshPropertiesOK() {
   cmdOK.setEnabled(named && ValidateComboEntry(cboNPC, kActorTable, true));
 }
 
-void frmProperties::RefreshFlagRemove() { cmdFlagRemove.setEnabled(flagRows_.ListIndex() != -1); }
+void frmProperties::RefreshFlagRemove() {
+  EnableButton(cmdFlagRemove, flagRows_.ListIndex() != -1, lstFlags);
+}
 
 void frmProperties::RefreshInvokeRadius() {
   txtInvokeRadius.setEnabled(chkInvokeRadius.isChecked());

@@ -43,4 +43,9 @@ void FocusWholeText(QLineEdit& field) {
   field.selectAll();
 }
 
+void EnableButton(QAbstractButton& button, bool enable, QWidget& next) {
+  if (!enable && button.hasFocus()) next.setFocus();
+  button.setEnabled(enable);
+}
+
 }  // namespace parlate

@@ -26,5 +26,8 @@ void SetUpField(QWidget& field, const char* name, QLabel& label);
 void PutCaretBehindText(QLineEdit& field);
 /// Gives a field the focus with all its text selected.
 void FocusWholeText(QLineEdit& field);
+/// Enables a button or greys it. A focus that it loses goes to `next` and not to whatever control
+/// comes next, which a further press of the same key would use unasked.
+void EnableButton(QAbstractButton& button, bool enable, QWidget& next);
 
 }  // namespace parlate

@@ -173,5 +173,33 @@ TEST(ListRows, ABadIndexIsErrorNineAndChangesNothing) {
   EXPECT_EQ(recorder.Take(), Notes{});
 }
 
+TEST(ListRows, RemovingTheSelectedItemSelectsTheNextOneAndThenTheLast) {
+  ListRows rows = ThreeRows();
+  rows.RemoveSelectedItem();
+  EXPECT_EQ(rows.ListCount(), 3U) << "no row is selected";
+  rows.SetListIndex(1);
+  rows.RemoveSelectedItem();
+  EXPECT_EQ(rows.ListIndex(), 1);
+  EXPECT_EQ(rows.Row(1).text, "c");
+  rows.RemoveSelectedItem();
+  EXPECT_EQ(rows.ListIndex(), 0);
+  EXPECT_EQ(rows.Row(0).text, "a");
+  rows.RemoveSelectedItem();
+  EXPECT_EQ(rows.ListIndex(), -1);
+  EXPECT_EQ(rows.ListCount(), 0U);
+}
+
+TEST(ListRows, WhileTheSelectedItemGoesARowStaysSelected) {
+  ListRows rows = ThreeRows();
+  rows.SetListIndex(1);
+  Recorder recorder(rows);
+  rows.RemoveSelectedItem();
+  EXPECT_EQ(recorder.Take(), (Notes{"selected 2 of 3", "removed 1 of 2"}));
+  rows.RemoveSelectedItem();
+  EXPECT_EQ(recorder.Take(), (Notes{"selected 0 of 2", "removed 1 of 1"}));
+  rows.RemoveSelectedItem();
+  EXPECT_EQ(recorder.Take(), (Notes{"removed 0 of 0", "selected -1 of 0"}));
+}
+
 }  // namespace
 }  // namespace parlate

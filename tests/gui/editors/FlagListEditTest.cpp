@@ -128,5 +128,21 @@ TEST_F(FlagListEditTest, ToggleFlipsTheSelectedFlagAndKeepsTheRowSelected) {
   EXPECT_FALSE(flags_.At(2).bValue);
 }
 
+TEST_F(FlagListEditTest, AFlagThatStandsUnderAnotherKeyIsTakenByItsRow) {
+  Hold(5, true, 0);
+  flags_.At(5).flagID = 2;  // both are Door now, one of them under the key of Zip
+  FlagListEdit edit(rows_, false);
+  edit.SetFlags(flags_);
+  EXPECT_THAT(Shown(), ElementsAre("Lamp;True", "Door;False", "Door;True"));
+  rows_.SetListIndex(2);
+  edit.Toggle();
+  EXPECT_THAT(Shown(), ElementsAre("Lamp;True", "Door;False", "Door;False"));
+  EXPECT_FALSE(flags_.At(5).bValue);
+  edit.Delete();
+  EXPECT_THAT(Shown(), ElementsAre("Lamp;True", "Door;False"));
+  EXPECT_EQ(flags_.Find(5), nullptr);
+  EXPECT_NE(flags_.Find(2), nullptr);
+}
+
 }  // namespace
 }  // namespace parlate

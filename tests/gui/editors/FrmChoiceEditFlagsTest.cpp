@@ -59,6 +59,24 @@ TEST_F(FrmChoiceEditFlagsTest, DeleteTakesTheSelectedFlagWithoutAQuestion) {
   EXPECT_TRUE(Yes()->flagRefs.Empty());
 }
 
+TEST_F(FrmChoiceEditFlagsTest, TheDeleteButtonKeepsTheFocusWhileThereIsAFlag) {
+  const auto zip = std::make_shared<FlagRef>();
+  zip->flagID = 6;
+  Yes()->flagRefs.Add(6, zip);
+  Edit(Yes(), [](QWidget& form) {
+    Turn(form, 1);
+    ClickFlag(form, 0);
+    auto& button = ControlNamed<QPushButton>(form, "cmdFlagDelete");
+    button.setFocus();
+    QTest::keyClick(&button, Qt::Key_Space);
+    EXPECT_THAT(FlagRows(form), ElementsAre("Zip;False"));
+    EXPECT_TRUE(button.hasFocus());
+    QTest::keyClick(&button, Qt::Key_Space);
+    EXPECT_TRUE(FlagRows(form).empty());
+    EXPECT_TRUE(Flags(form).hasFocus());
+  });
+}
+
 TEST_F(FrmChoiceEditFlagsTest, TheDeleteAndInsertKeysInTheListPressItsButtons) {
   Edit(Yes(), [](QWidget& form) {
     Turn(form, 1);

@@ -199,6 +199,39 @@ TEST_F(FrmEventChoice, MoveButtonKeepsTheFocusWhileThereIsRoom) {
   EXPECT_THAT(TextsInOrder(), ElementsAre("C", "A", "B"));
 }
 
+TEST_F(FrmEventChoice, MoveButtonHandsTheFocusToTheListWhenTheRoomIsUsedUp) {
+  AddThree();
+  ClickRowOf("lstChoices", 1);
+  Focus("cmdChoiceUp");
+  Press(Qt::Key_Space);
+  EXPECT_TRUE(List("lstChoices").hasFocus());
+  Press(Qt::Key_Space);
+  EXPECT_THAT(TextsInOrder(), ElementsAre("B", "A", "C")) << "and does not move back";
+  ClickRowOf("lstChoices", 1);
+  Focus("cmdChoiceDown");
+  Press(Qt::Key_Space);
+  EXPECT_TRUE(List("lstChoices").hasFocus());
+  EXPECT_THAT(TextsInOrder(), ElementsAre("B", "C", "A"));
+}
+
+TEST_F(FrmEventChoice, DeleteButtonKeepsTheFocusWhileThereIsAChoice) {
+  AddThree();
+  ClickRowOf("lstChoices", 1);
+  Focus("cmdChoiceDelete");
+  for (const char* left : {"AC", "A"}) {
+    program_.messages.Expect(Answer::Yes);
+    Press(Qt::Key_Space);
+    std::string texts;
+    for (const std::string& text : TextsInOrder()) texts += text;
+    EXPECT_EQ(texts, left);
+    EXPECT_TRUE(The<QWidget>("cmdChoiceDelete").hasFocus()) << left;
+  }
+  program_.messages.Expect(Answer::Yes);
+  Press(Qt::Key_Space);
+  EXPECT_THAT(TextsInOrder(), IsEmpty());
+  EXPECT_TRUE(List("lstChoices").hasFocus());
+}
+
 TEST_F(FrmEventChoice, InsertAddsAndDeleteDeletes) {
   Add(kChoice);
   Focus("lstChoices");
@@ -224,6 +257,18 @@ TEST_F(FrmEventChoice, TheNextNewEventStartsWithNoChoiceAndTheFirstNumber) {
   Click("cmdUpdate");
   EXPECT_EQ(EventOf<EventChoice>(7).Choices.Count(), 1U);
   EXPECT_THAT(TextsInOrder(), ElementsAre("A", "B", "C"));
+}
+
+TEST_F(FrmEventChoice, TheTickIsTakenOutForTheNextNewEvent) {
+  Add(kChoice);
+  Click("chkChoiceClear");
+  Click("cmdAddEvent");
+  EXPECT_FALSE(IsTicked("chkChoiceClear"));
+  Click("chkChoiceClear");
+  Combo("cboEvents").SetListIndex(kComment);
+  Click("cmdAddEvent");
+  Combo("cboEvents").SetListIndex(kChoice);
+  EXPECT_FALSE(IsTicked("chkChoiceClear")) << "whatever panel is shown";
 }
 
 TEST_F(FrmEventChoice, TickIsStoredByUpdateAlone) {

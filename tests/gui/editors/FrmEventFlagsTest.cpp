@@ -150,6 +150,67 @@ TEST_F(FrmEventFlags, DeletedFlagIsGoneFromTheEventAtOnceWithoutAQuestion) {
   EXPECT_TRUE(EventOf<EventSetFlag>(6).flagRefs.Empty());
 }
 
+TEST_F(FrmEventFlags, DeleteButtonKeepsTheFocusWhileThereIsAFlag) {
+  AddBothFlags();
+  ClickRowOf("lstSetFlags", 0);
+  Focus("cmdSetFlagDelete");
+  Press(Qt::Key_Space);
+  EXPECT_THAT(RowsOf("lstSetFlags"), ElementsAre("Lamp;True;12"));
+  EXPECT_TRUE(The<QWidget>("cmdSetFlagDelete").hasFocus());
+  Press(Qt::Key_Space);
+  EXPECT_THAT(RowsOf("lstSetFlags"), IsEmpty());
+  EXPECT_TRUE(List("lstSetFlags").hasFocus()) << "not a button that the next press would use";
+  Press(Qt::Key_Space);
+  EXPECT_EQ(TextOf("txtLabel"), "");
+  EXPECT_FALSE(IsEnabled("cboEvents")) << "it is still the same event";
+}
+
+TEST_F(FrmEventFlags, DeleteButtonOfTheChecksKeepsTheFocusToo) {
+  Add(kCheckFlags);
+  PickFlags({0, 1});
+  Click("cmdCheckFlagAdd");
+  ClickRowOf("lstCheckFlags", 1);
+  Focus("cmdCheckFlagDelete");
+  Press(Qt::Key_Space);
+  EXPECT_THAT(RowsOf("lstCheckFlags"), ElementsAre("Door;True"));
+  EXPECT_TRUE(The<QWidget>("cmdCheckFlagDelete").hasFocus());
+  Press(Qt::Key_Space);
+  EXPECT_THAT(RowsOf("lstCheckFlags"), IsEmpty());
+  EXPECT_TRUE(List("lstCheckFlags").hasFocus());
+}
+
+TEST_F(FrmEventFlags, AFlagThatWasRedirectedCanBeToggledAndDeleted) {
+  AddBothFlags();
+  EventOf<EventSetFlag>(6).ChangeTableLink(kFlagTable, 2, 3);
+  Edit(0);
+  Edit(5);
+  EXPECT_THAT(RowsOf("lstSetFlags"), ElementsAre("Lamp;True;12", "Lamp;True;12"));
+  DoubleClickRowOf("lstSetFlags", 0);
+  EXPECT_THAT(RowsOf("lstSetFlags"), ElementsAre("Lamp;False;12", "Lamp;True;12"));
+  Click("cmdSetFlagDelete");
+  const FlagList& flags = EventOf<EventSetFlag>(6).flagRefs;
+  ASSERT_EQ(flags.Count(), 1U);
+  EXPECT_TRUE(flags.Place(1)->bValue) << "the other one";
+  DoubleClickRowOf("lstSetFlags", 0);
+  EXPECT_THAT(RowsOf("lstSetFlags"), ElementsAre("Lamp;False;12"));
+  EXPECT_FALSE(flags.Place(1)->bValue);
+}
+
+TEST_F(FrmEventFlags, ARedirectedFlagWithNoneUnderItsNewKeyCanBeDeleted) {
+  Add(kSetFlags);
+  PickFlags({0}, "3");
+  Click("cmdSetFlagAdd");
+  Click("cmdUpdate");
+  EventOf<EventSetFlag>(6).ChangeTableLink(kFlagTable, 2, 3);
+  Edit(0);
+  Edit(5);
+  DoubleClickRowOf("lstSetFlags", 0);
+  EXPECT_THAT(RowsOf("lstSetFlags"), ElementsAre("Lamp;False;3"));
+  Click("cmdSetFlagDelete");
+  EXPECT_THAT(RowsOf("lstSetFlags"), IsEmpty());
+  EXPECT_TRUE(EventOf<EventSetFlag>(6).flagRefs.Empty());
+}
+
 TEST_F(FrmEventFlags, StoringTheOwnListOfAnEventNeitherLosesNorDoublesAFlag) {
   AddBothFlags();
   Click("cmdUpdate");

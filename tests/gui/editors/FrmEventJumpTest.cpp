@@ -198,6 +198,49 @@ TEST_F(FrmEventRandom, RemoveNeedsARowAndRemoveAllAnyRow) {
   EXPECT_THAT(program_.messages.shown, IsEmpty());
 }
 
+TEST_F(FrmEventRandom, ASecondPressOfRemoveDoesNotReachRemoveAll) {
+  Add(kRandomLabel);
+  for (const char* label : {"a", "b", "c"}) AddLabel(label);
+  SelectTarget(0);
+  Focus("cmdLabelRemove");
+  Press(Qt::Key_Space);
+  EXPECT_THAT(Targets(), ElementsAre("b", "c"));
+  EXPECT_TRUE(The<QWidget>("lstLabels").hasFocus());
+  Press(Qt::Key_Space);
+  EXPECT_THAT(Targets(), ElementsAre("b", "c"));
+}
+
+TEST_F(FrmEventRandom, FocusGoesBackToTheComboAfterAddAndAfterRemoveAll) {
+  Add(kRandomLabel);
+  for (const char* label : {"a", "a", "b"}) {
+    Type("cboRandomLabels", label);
+    Focus("cmdRandomAddLabel");
+    Press(Qt::Key_Space);
+    EXPECT_TRUE(Combo("cboRandomLabels").hasFocus()) << label;
+  }
+  EXPECT_THAT(Targets(), ElementsAre("a", "b"));
+  Focus("cmdLabelRemoveAll");
+  Press(Qt::Key_Space);
+  EXPECT_THAT(Targets(), IsEmpty());
+  EXPECT_TRUE(Combo("cboRandomLabels").hasFocus());
+}
+
+TEST_F(FrmEventRandom, TargetsAreTakenOutForTheNextNewEvent) {
+  Add(kRandomLabel);
+  AddLabel("Start");
+  AddLabel("Stop");
+  Click("cmdUpdate");
+  Click("cmdAddEvent");
+  EXPECT_THAT(Targets(), IsEmpty());
+  EXPECT_FALSE(CanUpdate());
+  EXPECT_THAT(EventOf<EventRandom>(6).Labels(), ElementsAre("Start", "Stop"));
+  AddLabel("Stop");
+  Combo("cboEvents").SetListIndex(kComment);
+  Click("cmdAddEvent");
+  Combo("cboEvents").SetListIndex(kRandomLabel);
+  EXPECT_THAT(Targets(), IsEmpty()) << "whatever panel is shown";
+}
+
 TEST_F(FrmEventRandom, CycleOptionsGoWithTheCycleAndKeepTheirTicks) {
   Add(kRandomLabel);
   EXPECT_FALSE(IsEnabled("chkCycleOnce"));

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <QPushButton>
 #include <filesystem>
 
 #include "editors/EventEditorFixture.h"
@@ -18,6 +19,16 @@ class FrmEventSpeech : public EventEditorTest {
   [[nodiscard]] std::string Speaker() { return Combo("cboActorSpeaker").Text(); }
   [[nodiscard]] std::string SpeakingTo() { return Combo("cboActorSpeakingTo").Text(); }
   [[nodiscard]] QtTextBox& Speech() { return The<QtTextBox>("txtSpeech"); }
+  /// Selects a row in the table editor that is about to come, and closes it.
+  static void ChooseInTable(const char* name) {
+    WhenFormShows("frmTableEdit", [name](QWidget& form) {
+      EXPECT_EQ(form.windowTitle(), "Actors/Pawns");
+      auto& table = ControlNamed<QtListBox>(form, "lstTable");
+      const QListWidgetItem* row = table.findItems(name, Qt::MatchExactly).value(0);
+      QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, table.visualItemRect(row).center());
+      QTest::mouseClick(&ControlNamed<QPushButton>(form, "cmdClose"), Qt::LeftButton);
+    });
+  }
 };
 
 TEST_F(FrmEventSpeech, SaysWhatItsControlsAre) {
@@ -157,6 +168,28 @@ TEST_F(FrmEventSpeech, UnknownActorIsAskedAboutOnLeavingTheField) {
   EXPECT_NE(FindTableItemByName(kActorTable, "Bert"), nullptr);
 }
 
+TEST_F(FrmEventSpeech, FirstTableButtonPutsTheChosenActorInTheSpeaker) {
+  Add(kSpeech);
+  ChooseInTable("Alex");
+  Click("cmdEditNPCTable(0)");
+  EXPECT_EQ(Speaker(), "Alex");
+  EXPECT_EQ(Combo("cboActorSpeaker").ItemData(Combo("cboActorSpeaker").ListIndex()), 0);
+  EXPECT_EQ(SpeakingTo(), "");
+}
+
+TEST_F(FrmEventSpeech, SecondTableButtonPutsTheChosenActorInTheOneSpokenTo) {
+  Add(kSpeech);
+  Type("cboActorSpeaker", "Alex");
+  Type("txtSpeech", "Hey");
+  EXPECT_FALSE(CanUpdate());
+  ChooseInTable("Zoe");
+  Click("cmdEditNPCTable(3)");
+  EXPECT_EQ(SpeakingTo(), "Zoe");
+  EXPECT_EQ(Combo("cboActorSpeakingTo").ItemData(Combo("cboActorSpeakingTo").ListIndex()), 1);
+  EXPECT_EQ(Speaker(), "Alex");
+  EXPECT_TRUE(CanUpdate()) << "it was the last field that was missing";
+}
+
 TEST_F(FrmEventSpeech, AddEventAfterAStoredSpeechTurnsTheSpeakersRound) {
   Add(kSpeech);
   WriteSpeech("Zoe", "Alex", "Hey");
@@ -176,6 +209,31 @@ TEST_F(FrmEventSpeech, InsertEventTurnsTheSpeakersRoundToo) {
   Click("cmdInsertEvent");
   EXPECT_EQ(Speaker(), "Alex");
   EXPECT_EQ(SpeakingTo(), "Zoe");
+}
+
+TEST_F(FrmEventSpeech, AnEditedSpeechTurnsTheSpeakersRoundToo) {
+  EventOf<EventSpeech>(1).ActorSpeakingToID = 0;
+  Edit(0);
+  Click("cmdUpdate");
+  Click("cmdAddEvent");
+  EXPECT_EQ(Speaker(), "Alex");
+  EXPECT_EQ(SpeakingTo(), "Zoe");
+  EXPECT_TRUE(Speech().hasFocus());
+}
+
+TEST_F(FrmEventSpeech, TheContinuedMarkIsTakenOutForTheNextNewEvent) {
+  Add(kSpeech);
+  WriteSpeech("Zoe", "Alex", "Hey");
+  Click("chkSpeechContinued");
+  Click("cmdUpdate");
+  EXPECT_TRUE(IsTicked("chkSpeechContinued")) << "the stored event has it";
+  Click("cmdAddEvent");
+  EXPECT_FALSE(IsTicked("chkSpeechContinued"));
+  Click("chkSpeechContinued");
+  Combo("cboEvents").SetListIndex(kComment);
+  Click("cmdAddEvent");
+  Combo("cboEvents").SetListIndex(kSpeech);
+  EXPECT_FALSE(IsTicked("chkSpeechContinued")) << "whatever panel is shown";
 }
 
 TEST_F(FrmEventSpeech, AStoredEventOfAnotherTypeBreaksTheChain) {

@@ -12,11 +12,18 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::UnorderedElementsAre;
 using namespace testing_support;
 
 class EventEditorWindow : public EventEditorTest {
  protected:
   [[nodiscard]] std::string Shown() { return TextOf("txtLabel"); }
+  /// The labels that a conversation knows.
+  [[nodiscard]] static std::vector<std::string> LabelsOf(const Conversation& con) {
+    std::vector<std::string> labels;
+    for (const LabelItem& label : con.Labels) labels.push_back(label.Name);
+    return labels;
+  }
 };
 
 TEST_F(EventEditorWindow, EveryAddCommandOpensItsPanel) {
@@ -108,25 +115,38 @@ TEST_F(EventEditorWindow, UpdateOfAnEventThatWasDeletedHarmsNoOther) {
   Click("cmdUpdate");
   EXPECT_EQ(program_.shell().lstEvents().ListCount(), 4U);
   EXPECT_EQ(program_.shell().lstEvents().Row(3).text, before);
-  EXPECT_FALSE(IsEnabled("cmdNextEvent") && SelectedRow() == 3);
+  EXPECT_THAT(KeysInOrder(), ElementsAre(1, 2, 3, 4));
+  EXPECT_THAT(LabelsOf(Con()), ElementsAre("Start"));
 }
 
 TEST_F(EventEditorWindow, ConversationMayGoUnderTheOpenEditor) {
   program_.workspace.defaults.bConfirmationConDelete = false;
-  Edit(0);
   EventOf<EventSpeech>(1).ActorSpeakingToID = 0;
   Edit(0);
+  const auto gone = program_.shell().GetConFromID(0);
+  const auto event = gone->events.Share(1);
   program_.Choose("mnuConPopupCut");
   EXPECT_THAT(program_.shell().lstEvents().ListCount(), 0U);
   EXPECT_TRUE(Editor().isVisible());
+  Type("txtLabel", "Anyone");
   Type("txtSpeech", "Anyone there?");
   Click("cmdUpdate");
   Click("cmdPrevEvent");
   Click("cmdNextEvent");
+  EXPECT_EQ(Shown(), "Anyone") << "there is no event to go to";
+  Type("txtSpeech", "No?");
   Click("cmdUpdate");
+  EXPECT_EQ(event->eventLabel, "Anyone");
+  EXPECT_EQ(event->As<EventSpeech>()->speech, "No?");
+  EXPECT_THAT(LabelsOf(*gone), UnorderedElementsAre("Anyone", "Stop"));
   Click("cmdAddEvent");
   Click("cmdClose");
-  EXPECT_EQ(program_.shell().GetConFile()->Conversations.Count(), 2U);
+  ASSERT_EQ(program_.shell().GetConFile()->Conversations.Count(), 2U);
+  EXPECT_THAT(KeysInOrder(1), IsEmpty());
+  EXPECT_THAT(LabelsOf(Con(1)), IsEmpty());
+  EXPECT_THAT(KeysInOrder(2), ElementsAre(1));
+  EXPECT_EQ(EventOf<EventJump>(1, 2).label, "Start");
+  EXPECT_THAT(LabelsOf(Con(2)), IsEmpty());
 }
 
 TEST_F(EventEditorWindow, ANewEventGoesToTheConversationThatIsSelectedAtItsUpdate) {
@@ -168,15 +188,15 @@ TEST_F(EventEditorWindow, AnOpenedEventHasItsCaretBehindTheLabelAndNothingSelect
   EXPECT_EQ(Label().cursorPosition(), 5);
 }
 
-TEST_F(EventEditorWindow, AnUnknownActorIsAskedAboutAlsoWhenTheNextEventIsChosenInTheList) {
+TEST_F(EventEditorWindow, AnEditorThatComesBackToTheFrontLooksWhetherItsActorsAreStillThere) {
+  EventOf<EventSpeech>(1).ActorSpeakingToID = 0;
   Edit(0);
-  Type("cboActorSpeaker", "Nobody");
-  program_.messages.Expect(Answer::No);
+  EXPECT_TRUE(CanUpdate());
   program_.Activate();
-  program_.ClickRow(2);
-  QCoreApplication::processEvents();
-  ASSERT_EQ(program_.messages.shown.size(), 1U);
-  EXPECT_EQ(program_.messages.shown[0].title, "Add Item?");
+  GetTable(kActorTable)->Remove(0);
+  EXPECT_TRUE(CanUpdate()) << "nobody has looked yet";
+  WaitForEditor();
+  EXPECT_FALSE(CanUpdate());
 }
 
 TEST_F(EventEditorWindow, ACameraThatCannotBeOpenedIsStoredBeforeTheRunEnds) {

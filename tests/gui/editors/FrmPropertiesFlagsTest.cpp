@@ -59,6 +59,18 @@ TEST_F(FrmPropertiesFlags, DeleteIsLiveWhileAFlagIsSelectedAndMovesTheSelectionO
   EXPECT_FALSE(IsEnabled("cmdFlagRemove"));
 }
 
+TEST_F(FrmPropertiesFlags, DeleteKeepsTheFocusWhileThereIsAFlag) {
+  ClickFlag(0);
+  auto& button = The<QPushButton>("cmdFlagRemove");
+  button.setFocus();
+  QTest::keyClick(&button, Qt::Key_Space);
+  EXPECT_THAT(FlagRows(), ElementsAre("Lamp;False"));
+  EXPECT_TRUE(button.hasFocus());
+  QTest::keyClick(&button, Qt::Key_Space);
+  EXPECT_TRUE(FlagRows().empty());
+  EXPECT_TRUE(FlagList().hasFocus());
+}
+
 TEST_F(FrmPropertiesFlags, CancelAfterRemovingAFlagLeavesTheConversationsFlags) {
   ClickFlag(0);
   Click("cmdFlagRemove");

@@ -94,10 +94,10 @@ void ChoicePanel::PopulateChoices() {
 void ChoicePanel::RefreshChoiceButtons() {
   const std::int32_t row = rows_.ListIndex();
   const auto last = static_cast<std::int32_t>(rows_.ListCount()) - 1;
-  cmdChoiceEdit.setEnabled(row != -1);
-  cmdChoiceDelete.setEnabled(row != -1);
-  cmdChoiceUp.setEnabled(row > 0);
-  cmdChoiceDown.setEnabled(row != -1 && row < last);
+  EnableButton(cmdChoiceEdit, row != -1, lstChoices);
+  EnableButton(cmdChoiceDelete, row != -1, lstChoices);
+  EnableButton(cmdChoiceUp, row > 0, lstChoices);
+  EnableButton(cmdChoiceDown, row != -1 && row < last, lstChoices);
   emit changed();
 }
 
@@ -126,15 +126,13 @@ void ChoicePanel::EditSelectedChoice() {
 }
 
 void ChoicePanel::DeleteSelectedChoice() {
-  const std::int32_t row = rows_.ListIndex();
-  if (row == -1) return;
+  if (rows_.ListIndex() == -1) return;
   const Answer answer =
       Host().Doors().messages.Show({"Delete?", "Are you sure you wish to Delete this Choice?",
                                     MessageBox::Icon::Question, MessageBox::Buttons::YesNo});
   if (answer != Answer::Yes) return;
   currentChoiceEvent_->Choices.Remove(SelectedID());
-  rows_.RemoveItem(static_cast<std::size_t>(row));
-  ReselectListIndex(rows_, row);
+  rows_.RemoveSelectedItem();
   RefreshChoiceButtons();
 }
 

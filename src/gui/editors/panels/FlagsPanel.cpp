@@ -72,7 +72,7 @@ void FlagsPanel::FollowFlags(FlagList& flags) {
 }
 
 void FlagsPanel::RefreshFlagButtons() {
-  cmdDelete.setEnabled(rows_.ListIndex() != -1);
+  EnableButton(cmdDelete, rows_.ListIndex() != -1, lstFlags);
   emit changed();
 }
 

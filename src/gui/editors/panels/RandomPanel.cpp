@@ -110,9 +110,9 @@ void RandomPanel::UpdateEvent(EventItem& event) {
 }
 
 void RandomPanel::RefreshRandomButtons() {
-  cmdLabelRemove.setEnabled(lstLabels.ListIndex() != -1);
-  cmdLabelRemoveAll.setEnabled(lstLabels.ListCount() > 0);
-  cmdRandomAddLabel.setEnabled(!cboRandomLabels.Text().empty());
+  EnableButton(cmdLabelRemove, lstLabels.ListIndex() != -1, lstLabels);
+  EnableButton(cmdLabelRemoveAll, lstLabels.ListCount() > 0, cboRandomLabels);
+  EnableButton(cmdRandomAddLabel, !cboRandomLabels.Text().empty(), cboRandomLabels);
 }
 
 void RandomPanel::AddLabel() {
@@ -124,6 +124,8 @@ void RandomPanel::AddLabel() {
     lstLabels.AddItem(label);
     cboRandomLabels.SetText("");
   }
+  // For the next label, or to write this one otherwise.
+  cboRandomLabels.setFocus();
   RefreshRandomButtons();
   emit changed();
 }
