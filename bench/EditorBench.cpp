@@ -12,6 +12,7 @@
 
 #include "bench/Generator.h"
 #include "bench/Measure.h"
+#include "bench/Nobody.h"
 #include "mainwindow/frmConvList.h"
 #include "model/Workspace.h"
 
@@ -22,21 +23,6 @@ using namespace parlate;
 constexpr int kSmall = 100;
 constexpr int kLarge = 32767;
 constexpr int kRounds = 25;
-
-/// Nobody is asked, and nothing is kept.
-class Nobody final : public MessageBoxes, public FileDialogs, public SettingsStore {
- public:
-  Answer Show(const MessageBox& /*box*/) override { return Answer::No; }
-  std::string ShowOpen(const FileDialog& /*dialog*/) override { return {}; }
-  std::string ShowSave(const FileDialog& /*dialog*/) override { return {}; }
-  [[nodiscard]] std::string Get(const std::string& /*application*/, const std::string& /*section*/,
-                                const std::string& key,
-                                const std::string& fallback) const override {
-    return key == "Username" ? "bench" : fallback;
-  }
-  void Set(const std::string&, const std::string&, const std::string&,
-           const std::string&) override {}
-};
 
 /// The program with one conversation of so many events, and the editor open in it. It measures
 /// within its own workspace.
@@ -91,7 +77,7 @@ class Program {
   }
 
   Workspace workspace_;
-  Nobody nobody_;
+  bench::Nobody nobody_{Answer::No};
   std::unique_ptr<frmConvList> window_;
 };
 

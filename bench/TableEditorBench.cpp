@@ -20,6 +20,7 @@
 #include "bench/Comparison.h"
 #include "bench/Generator.h"
 #include "bench/Measure.h"
+#include "bench/Nobody.h"
 #include "mainwindow/frmConvList.h"
 #include "model/TableCombos.h"
 #include "model/Tables.h"
@@ -37,26 +38,6 @@ struct Options {
   FileShape shape;
   int rounds = 5;
   bool check = false;
-};
-
-/// Says Yes to everything, and keeps what was said last.
-class Yes final : public MessageBoxes, public FileDialogs, public SettingsStore {
- public:
-  Answer Show(const MessageBox& box) override {
-    last = box.text;
-    return Answer::Yes;
-  }
-  std::string ShowOpen(const FileDialog& /*dialog*/) override { return {}; }
-  std::string ShowSave(const FileDialog& /*dialog*/) override { return {}; }
-  [[nodiscard]] std::string Get(const std::string& /*application*/, const std::string& /*section*/,
-                                const std::string& key,
-                                const std::string& fallback) const override {
-    return key == "Username" ? "bench" : fallback;
-  }
-  void Set(const std::string&, const std::string&, const std::string&,
-           const std::string&) override {}
-
-  std::string last;
 };
 
 /// Waits for a table's window to come up, and does something in it once.
@@ -98,7 +79,7 @@ class Program {
     });
     EditTableDialog(tableType);
     if (before - GetTable(tableType)->Count() < kRows) {
-      throw std::runtime_error("an unused row was left behind: " + yes_.last);
+      throw std::runtime_error("an unused row was left behind: " + yes_.lastText);
     }
     return time;
   }
@@ -106,7 +87,7 @@ class Program {
  private:
   Workspace workspace_;
   WorkspaceScope scope_{workspace_};
-  Yes yes_;
+  Nobody yes_{Answer::Yes};
   frmConvList window_{yes_, yes_, yes_};
 };
 

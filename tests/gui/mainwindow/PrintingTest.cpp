@@ -38,6 +38,17 @@ class Printing : public WindowTest {
   static void Click(const QWidget& form, const char* name) {
     QTest::mouseClick(&ControlNamed<QAbstractButton>(form, name), Qt::LeftButton, {}, QPoint(8, 8));
   }
+  /// From the file's properties, after these tabs were in front.
+  void PrintStatistics(const std::vector<int>& tabs) {
+    program.messages.Expect(Answer::Ok);
+    WhenFormShows("frmFileProperties", [&tabs](QWidget& form) {
+      auto& shown = ControlNamed<QTabWidget>(form, "tabProperties");
+      for (const int tab : tabs) shown.setCurrentIndex(tab);
+      Click(form, "cmdPrint");
+      Click(form, "cmdCancel");
+    });
+    program.Choose("mnuFileProperties");
+  }
 
   RunningProgram program;
 };
@@ -98,13 +109,7 @@ TEST_F(Printing, TheStatisticsNameTheFileByTheLettersOfItsName) {
       "e.con");
   WriteBytes(path, HarbourFile());
   program.shell().OpenConFile(path);
-  program.messages.Expect(Answer::Ok);
-  WhenFormShows("frmFileProperties", [](QWidget& form) {
-    ControlNamed<QTabWidget>(form, "tabProperties").setCurrentIndex(2);
-    Click(form, "cmdPrint");
-    Click(form, "cmdCancel");
-  });
-  program.Choose("mnuFileProperties");
+  PrintStatistics({2});
   EXPECT_EQ(program.printers.Texts().front(),
             "Parlate Table: CONVERSATION STATS, FILE = GR\xDC\xDF"
             "E.CON");
@@ -123,13 +128,7 @@ TEST_F(Printing, TheTableEditorPrintsItsRows) {
 }
 
 TEST_F(Printing, TheFilePropertiesPrintTheStatistics) {
-  program.messages.Expect(Answer::Ok);
-  WhenFormShows("frmFileProperties", [](QWidget& form) {
-    ControlNamed<QTabWidget>(form, "tabProperties").setCurrentIndex(2);
-    Click(form, "cmdPrint");
-    Click(form, "cmdCancel");
-  });
-  program.Choose("mnuFileProperties");
+  PrintStatistics({2});
   EXPECT_THAT(program.printers.Texts(),
               ElementsAre("Parlate Table: CONVERSATION STATS, FILE = HARBOUR.CON", "Alex", "1",
                           "Zoe", "1", "Total Unique Speakers:   2", "Total Speech Events:   2"));
@@ -138,16 +137,7 @@ TEST_F(Printing, TheFilePropertiesPrintTheStatistics) {
 }
 
 TEST_F(Printing, StatisticsThatWereCountedTwicePrintTheRowsOfBothAndTheSpeakersOfTheLast) {
-  program.messages.Expect(Answer::Ok);
-  WhenFormShows("frmFileProperties", [](QWidget& form) {
-    auto& tabs = ControlNamed<QTabWidget>(form, "tabProperties");
-    tabs.setCurrentIndex(2);
-    tabs.setCurrentIndex(0);
-    tabs.setCurrentIndex(2);
-    Click(form, "cmdPrint");
-    Click(form, "cmdCancel");
-  });
-  program.Choose("mnuFileProperties");
+  PrintStatistics({2, 0, 2});
   EXPECT_THAT(program.printers.Texts(),
               ElementsAre("Parlate Table: CONVERSATION STATS, FILE = HARBOUR.CON", "Alex", "2",
                           "Zoe", "2", "Total Unique Speakers:   0", "Total Speech Events:   2"));
