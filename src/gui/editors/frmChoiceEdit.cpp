@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <utility>
 
+#include "editors/ListSpace.h"
 #include "editors/panels/PanelControls.h"
 #include "model/TableCombos.h"
 #include "model/Tables.h"
@@ -54,6 +55,7 @@ void frmChoiceEdit::ConnectControls() {
   connect(&cmdPlayAudio, &QPushButton::clicked, this, &frmChoiceEdit::PlayAudio);
   connect(&lstFlags, &MultiColumnList::listIndexChanged, this, &frmChoiceEdit::RefreshFlagDelete);
   connect(&lstFlags, &MultiColumnList::doubleClicked, this, &frmChoiceEdit::ToggleFlag);
+  OnSpaceIn(lstFlags, [this] { ToggleFlag(); });
   connect(&cmdFlagAdd, &QPushButton::clicked, this, [this] {
     if (flags_.Add(this)) RefreshFlagDelete();
   });

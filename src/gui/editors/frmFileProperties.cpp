@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "model/Tables.h"
+#include "platform/FormControls.h"
 #include "widgets/CodePageText.h"
 
 namespace parlate {
@@ -89,10 +90,10 @@ void frmFileProperties::PopulateAvailableMissions() {
 void frmFileProperties::RefreshFileButtons() {
   cmdOK.setEnabled(lstMissions.ListCount() > 0 && !txtAudioPackage.text().isEmpty());
   if (tabProperties.currentIndex() != kMissionsTab) return;
-  cmdAdd.setEnabled(!lstMissionsAvailable.selectedItems().isEmpty());
-  cmdAddAll.setEnabled(lstMissionsAvailable.ListCount() > 0);
-  cmdRemove.setEnabled(!lstMissions.selectedItems().isEmpty());
-  cmdRemoveAll.setEnabled(lstMissions.ListCount() > 0);
+  EnableButton(cmdAdd, !lstMissionsAvailable.selectedItems().isEmpty(), lstMissionsAvailable);
+  EnableButton(cmdAddAll, lstMissionsAvailable.ListCount() > 0, lstMissions);
+  EnableButton(cmdRemove, !lstMissions.selectedItems().isEmpty(), lstMissions);
+  EnableButton(cmdRemoveAll, lstMissions.ListCount() > 0, lstMissionsAvailable);
 }
 
 void frmFileProperties::Move(QtListBox& from, QtListBox& to, Which which) {

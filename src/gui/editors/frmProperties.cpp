@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "editors/ListSpace.h"
 #include "general/CodePage.h"
 #include "general/RuntimeError.h"
 #include "model/TableCombos.h"
@@ -47,6 +48,7 @@ void frmProperties::Connect() {
   connect(&lstFlags, &MultiColumnList::listIndexChanged, this, &frmProperties::RefreshFlagRemove);
   connect(&lstFlags, &MultiColumnList::rowsReset, this, &frmProperties::RefreshFlagRemove);
   connect(&lstFlags, &MultiColumnList::doubleClicked, this, &frmProperties::ToggleFlag);
+  OnSpaceIn(lstFlags, [this] { ToggleFlag(); });
   connect(&cmdFlagAdd, &QPushButton::clicked, this, &frmProperties::AddFlags);
   connect(&cmdFlagRemove, &QPushButton::clicked, this, &frmProperties::RemoveFlag);
   connect(&chkInvokeRadius, &QCheckBox::toggled, this, &frmProperties::RefreshInvokeRadius);

@@ -122,6 +122,7 @@ void frmTableEdit::PopulateTable() {
   for (const TableItem& row : *editTable_) lstTable.AddRow(row.Name, row.ID);
   cmdAdd.setEnabled(false);
   RefreshTableButtons();
+  if (lstTable.ListCount() == 0) txtName.setFocus();
 }
 
 void frmTableEdit::RefreshTableButtons() {

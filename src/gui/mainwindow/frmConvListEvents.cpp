@@ -12,18 +12,33 @@ constexpr std::int32_t kInsert = 0;
 }  // namespace
 
 void frmConvList::ConnectEventCommands() {
+  // An open editor only follows the list; who asks for it wants to write in it.
+  const auto bringToFront = [this] {
+    if (!IsEventEditorVisible()) return;
+    eventEditor_->raise();
+    eventEditor_->activateWindow();
+  };
   for (std::int32_t type = 0; type < kEventTypeCount; ++type) {
     for (const char* name : {"mnuEventAdd(%1)", "mnuEventPopupAddEvent(%1)"}) {
-      On(QString::fromLatin1(name).arg(type), [this, type] { shell_.AddEvent(type, kAppend); });
+      On(QString::fromLatin1(name).arg(type), [this, type, bringToFront] {
+        shell_.AddEvent(type, kAppend);
+        bringToFront();
+      });
     }
     for (const char* name : {"mnuEventInsert(%1)", "mnuEventPopupInsertEvent(%1)"}) {
-      On(QString::fromLatin1(name).arg(type), [this, type] { shell_.AddEvent(type, kInsert); });
+      On(QString::fromLatin1(name).arg(type), [this, type, bringToFront] {
+        shell_.AddEvent(type, kInsert);
+        bringToFront();
+      });
     }
   }
-  On("mnuEventsEdit", [this] { shell_.EditSelectedEvent(); });
-  On("mnuEventPopupEdit", [this] { shell_.EditSelectedEvent(); });
-  connect(&lstEvents_, &MultiColumnList::doubleClicked, this,
-          [this] { shell_.EditSelectedEvent(); });
+  const auto edit = [this, bringToFront] {
+    shell_.EditSelectedEvent();
+    bringToFront();
+  };
+  On("mnuEventsEdit", edit);
+  On("mnuEventPopupEdit", edit);
+  connect(&lstEvents_, &MultiColumnList::doubleClicked, this, edit);
 }
 
 frmEvent& frmConvList::EventEditor() {

@@ -77,6 +77,18 @@ TEST_F(FrmChoiceEditFlagsTest, TheDeleteButtonKeepsTheFocusWhileThereIsAFlag) {
   });
 }
 
+TEST_F(FrmChoiceEditFlagsTest, SpaceTogglesTheSelectedFlagAsADoubleClickDoes) {
+  Edit(Yes(), [](QWidget& form) {
+    Turn(form, 1);
+    ClickFlag(form, 0);
+    const auto before = FlagRows(form);
+    QTest::keyClick(&Flags(form), Qt::Key_Space);
+    EXPECT_NE(FlagRows(form), before);
+    QTest::keyClick(&Flags(form), Qt::Key_Space);
+    EXPECT_EQ(FlagRows(form), before);
+  });
+}
+
 TEST_F(FrmChoiceEditFlagsTest, TheDeleteAndInsertKeysInTheListPressItsButtons) {
   Edit(Yes(), [](QWidget& form) {
     Turn(form, 1);

@@ -70,6 +70,19 @@ TEST_F(EventEditorWindow, EditCommandsAndTheDoubleClickOpenTheSelectedEvent) {
   EXPECT_EQ(SelectedRow(), 0);
 }
 
+TEST_F(EventEditorWindow, AnOpenEditorComesToTheFrontWhenItIsAskedForAndNotWhenItFollows) {
+  Edit(0);
+  program_.Activate();
+  program_.ClickRow(4);
+  EXPECT_EQ(Shown(), "Stop");
+  EXPECT_TRUE(program_.Window().isActiveWindow()) << "a writer may walk through the list";
+  for (const char* command : {"mnuEventsEdit", "mnuEventAdd(0)"}) {
+    program_.Activate();
+    program_.Choose(command);
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&Editor())) << command;
+  }
+}
+
 TEST_F(EventEditorWindow, OpenEditorFollowsTheSelectionAndAHiddenOneDoesNot) {
   Edit(0);
   program_.ClickRow(4);

@@ -243,6 +243,21 @@ TEST_F(FrmFilePropertiesTest, SeveralMissionsAreSelectedWithTheKeysAlone) {
               ElementsAre("EndGame", "Intro", "Mission 00", "Mission 02", "Mission 03"));
 }
 
+TEST_F(FrmFilePropertiesTest, AButtonThatGoesGreyHandsTheFocusToItsListAndNotToTheNextButton) {
+  const auto press = [this](const char* name) {
+    The<QPushButton>(name).setFocus();
+    QTest::keyClick(&The<QPushButton>(name), Qt::Key_Space);
+  };
+  The<QtListBox>("lstMissionsAvailable").setCurrentRow(0);
+  press("cmdAdd");
+  EXPECT_FALSE(IsEnabled("cmdAdd"));
+  EXPECT_TRUE(The<QtListBox>("lstMissionsAvailable").hasFocus());
+  press("cmdAddAll");
+  EXPECT_TRUE(The<QtListBox>("lstMissions").hasFocus());
+  press("cmdRemoveAll");
+  EXPECT_TRUE(The<QtListBox>("lstMissionsAvailable").hasFocus());
+}
+
 TEST_F(FrmFilePropertiesTest, ADoubleClickMovesAMissionToTheOtherSide) {
   ClickRow(Available(), 0);
   QTest::mouseDClick(Available().viewport(), Qt::LeftButton, {},

@@ -92,6 +92,17 @@ TEST_F(FrmPropertiesFlags, ADoubleClickTogglesTheFlagAndKeepsItSelected) {
   EXPECT_FALSE(con_->flagRefs.At(2).bValue);
 }
 
+TEST_F(FrmPropertiesFlags, SpaceTogglesTheSelectedFlagAsADoubleClickDoes) {
+  ClickFlag(0);
+  const std::vector<std::string> before = FlagRows();
+  QTest::keyClick(&FlagList(), Qt::Key_Space);
+  EXPECT_NE(FlagRows(), before);
+  QTest::keyClick(&FlagList(), Qt::Key_Space);
+  EXPECT_EQ(FlagRows(), before);
+  QTest::keyClick(&FlagList(), Qt::Key_Space, Qt::ShiftModifier);
+  EXPECT_EQ(FlagRows(), before);
+}
+
 TEST_F(FrmPropertiesFlags, InsertAddsFlagsAndDeleteRemovesTheSelectedOneWithNoModifierHeld) {
   ClickFlag(0);
   QTest::keyClick(&FlagList(), Qt::Key_Delete, Qt::ShiftModifier);

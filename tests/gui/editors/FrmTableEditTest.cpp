@@ -75,6 +75,7 @@ TEST_F(FrmTableEditTest, EditAndDeleteNeedASelectedRow) {
 TEST_F(FrmTableEditTest, WithoutRowsFourButtonsAreGrey) {
   GetTable(kSkillTable)->Clear();
   Edit(kSkillTable, [](QWidget& form) {
+    EXPECT_TRUE(TextOf(form, "txtName").hasFocus()) << "there is nothing else to begin with";
     for (const char* name : {"cmdEdit", "cmdDelete", "cmdDeleteUnused", "cmdPrint"}) {
       EXPECT_FALSE(IsEnabled(form, name)) << name;
     }

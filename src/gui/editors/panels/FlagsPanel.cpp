@@ -1,9 +1,9 @@
 #include "editors/panels/FlagsPanel.h"
 
 #include <QGridLayout>
-#include <QKeyEvent>
 #include <QSignalBlocker>
 
+#include "editors/ListSpace.h"
 #include "platform/FontSetup.h"
 #include "platform/FormControls.h"
 
@@ -18,11 +18,7 @@ FlagsPanel::FlagsPanel(const Setup& setup, PanelHost& host, QWidget* parent)
   RefreshFlagButtons();
   connect(&lstFlags, &MultiColumnList::listIndexChanged, this, &FlagsPanel::RefreshFlagButtons);
   connect(&lstFlags, &MultiColumnList::doubleClicked, this, [this] { flags_.Toggle(); });
-  connect(&lstFlags, &MultiColumnList::keyPressedInList, this, [this](QKeyEvent* event) {
-    if (event->key() != Qt::Key_Space || event->modifiers() != Qt::NoModifier) return;
-    event->accept();
-    flags_.Toggle();
-  });
+  OnSpaceIn(lstFlags, [this] { flags_.Toggle(); });
   connect(&cmdAdd, &QPushButton::clicked, this, &FlagsPanel::AddFlag);
   connect(&cmdDelete, &QPushButton::clicked, this, &FlagsPanel::DeleteFlag);
 }
