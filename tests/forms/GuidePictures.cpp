@@ -117,6 +117,9 @@ class Guide {
     if (window_.shell().GetConFile() == nullptr) throw std::runtime_error("cannot open " + file);
   }
 
+  /// Lets the file and its lock go.
+  void Close() { window_.shell().CloseConFile(); }
+
   void MakeAll() {
     for (const EventPicture& picture : kEventPictures) {
       QWidget& editor = Open(picture.conversation, picture.event);
@@ -234,7 +237,9 @@ int main(int argc, char** argv) {
     return 2;
   }
   try {
-    Guide(arguments.at(1).toStdString(), arguments.at(2)).MakeAll();
+    Guide guide(arguments.at(1).toStdString(), arguments.at(2));
+    guide.MakeAll();
+    guide.Close();
     return 0;
   } catch (const std::exception& error) {
     QTextStream(stderr) << error.what() << '\n';
