@@ -30,4 +30,8 @@ class Boolean {
 /// "True" or "False".
 [[nodiscard]] inline std::string BoolToString(Boolean value) { return BoolToString(value.Raw()); }
 
+/// Any other type would be taken for a number, in which true is 1.
+template <class Other>
+std::string BoolToString(Other value) = delete;
+
 }  // namespace parlate

@@ -81,6 +81,9 @@ char32_t TakeCodePoint(std::string_view& utf8) {
     whole = (next & 0xC0U) == 0x80U;
     codePoint = (codePoint << 6U) | (next & 0x3FU);
   }
+  // In more bytes than it takes, a letter is malformed too.
+  constexpr std::array<char32_t, 5> kLeastOfLength = {0, 0, 0x80, 0x800, 0x10000};
+  whole = whole && codePoint >= kLeastOfLength[length];
   utf8.remove_prefix(whole ? length : 1);
   return whole ? codePoint : kReplacement;
 }
@@ -178,6 +181,22 @@ char FoldCase(char character) { return kFold[static_cast<unsigned char>(characte
 std::string FoldCase(std::string_view text) {
   std::string folded(text);
   for (char& c : folded) c = FoldCase(c);
+  return folded;
+}
+
+std::string FoldCaseOfUtf8(std::string_view utf8) {
+  std::string folded;
+  folded.reserve(utf8.size());
+  while (!utf8.empty()) {
+    const std::string_view before = utf8;
+    const char32_t codePoint = TakeCodePoint(utf8);
+    const char byte = CodePageByte(codePoint);
+    if (CodePoint(static_cast<unsigned char>(byte)) == codePoint) {
+      AppendUtf8(folded, CodePoint(static_cast<unsigned char>(FoldCase(byte))));
+    } else {
+      folded += before.substr(0, before.size() - utf8.size());
+    }
+  }
   return folded;
 }
 

@@ -27,6 +27,10 @@ namespace parlate {
 /// A text without its case, byte by byte.
 [[nodiscard]] std::string FoldCase(std::string_view text);
 
+/// A UTF-8 text without the case of the letters that the code page has. All others, and what is no
+/// UTF-8, stay as they are, so that different texts do not become the same.
+[[nodiscard]] std::string FoldCaseOfUtf8(std::string_view utf8);
+
 /// A text in capitals, as far as the code page has them.
 [[nodiscard]] std::string UpperCase(std::string_view text);
 

@@ -23,6 +23,16 @@ void CopyFlagRefs(const FlagList& source, FlagList& target) {
   }
 }
 
+void RekeyFlagRefs(FlagList& flagRefs) {
+  FlagList rekeyed;
+  for (std::size_t place = 1; place <= flagRefs.Count(); ++place) {
+    std::shared_ptr<FlagRef> flag = flagRefs.Place(place);
+    const std::int32_t key = flag->flagID;
+    if (rekeyed.Find(key) == nullptr) rekeyed.Add(key, std::move(flag));
+  }
+  flagRefs = std::move(rekeyed);
+}
+
 void SetSelectedFlagRefs(FlagList& flagRefs, const ListBox& flagList, Boolean bValue,
                          std::int32_t expiration) {
   for (int i = 0; i < flagList.ListCount(); ++i) {

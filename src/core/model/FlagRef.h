@@ -50,6 +50,9 @@ void LoadFlagRefs(RecordReader& in, FlagList& flagRefs);
 /// Redirects entries that were not redirected before; a redirected entry moves to the end of the
 /// list. RuntimeError 457 if the list has an entry under the new ID.
 void ChangeFlagRefLink(FlagList& flagRefs, std::int32_t oldID, std::int32_t newID);
+/// Puts every entry under the key of its flag again, in the same order. Of entries that have become
+/// the same flag the first one stays.
+void RekeyFlagRefs(FlagList& flagRefs);
 /// Adds the rows that the entries refer to.
 void GatherFlags(const FlagList& flagRefs, IDSet& ids);
 /// Whether an entry refers to that row.

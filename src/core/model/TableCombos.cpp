@@ -18,6 +18,11 @@ int IndexOfText(const ComboBox& combo, const std::string& text) {
   return -1;
 }
 
+void AddEntry(ComboBox& combo, const TableItem& row) {
+  combo.AddItem(row.Name);
+  combo.SetItemData(FindComboIndexByText(combo, row.Name), row.ID);
+}
+
 bool UserWantsToAdd() {
   MessageBox box;
   box.title = "Add Item?";
@@ -82,8 +87,7 @@ int FindComboIndexByText(const ComboBox& combo, const std::string& text) {
 
 TableItem& AddTableItemToCombo(ComboBox& combo, std::int32_t tableType, const std::string& name) {
   TableItem& row = AddTableItem(tableType, name);
-  combo.AddItem(row.Name);
-  combo.SetItemData(FindComboIndexByText(combo, row.Name), row.ID);
+  AddEntry(combo, row);
   return row;
 }
 
@@ -93,7 +97,7 @@ std::int32_t EditTableFromCombo(std::int32_t tableType, ComboBox& combo) {
   if (const Table* table = GetTable(tableType)) PopulateCombo(combo, *table);
   const std::int32_t selected = chosen != -1 ? chosen : before;
   if (selected != -1) SelectComboItemByID(selected, combo);
-  return selected;
+  return GetComboItemID(combo);
 }
 
 std::int32_t EditTableDialog(std::int32_t tableType) {
@@ -105,6 +109,8 @@ Boolean ValidateComboEntry(ComboBox& combo, std::int32_t tableType, Boolean bQui
   const std::string text = combo.Text();
   if (text.empty() || !combo.Visible()) return false;
   if (const TableItem* row = FindTableItemByName(tableType, text)) {
+    // A row that came by way of another combo is missing in this one, whose choice is stored.
+    if (IndexOfText(combo, row->Name) == -1) AddEntry(combo, *row);
     SelectComboItemByText(row->Name, combo);
     return true;
   }

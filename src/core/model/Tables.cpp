@@ -86,7 +86,10 @@ TableItem& AddTableItem(std::int32_t tableType, const std::string& name) {
 }
 
 TableItem& AppendTableItem(std::int32_t tableType, const std::string& name) {
-  std::int32_t& next = Current().nextTableID.at(static_cast<std::size_t>(tableType));
+  auto& nextIDs = Current().nextTableID;
+  const auto index = static_cast<std::size_t>(tableType);
+  if (index >= nextIDs.size()) throw RuntimeError(RuntimeError::kSubscriptOutOfRange);
+  std::int32_t& next = nextIDs[index];
   if (next == INT32_MAX) throw RuntimeError(RuntimeError::kOverflow);
   const std::int32_t id = next++;
   AddFixedTableItem(tableType, name, id);

@@ -9,7 +9,7 @@ void AddRecentFile(ConversationDefaults& defaults, const std::string& path) {
   if (path.empty()) return;
   int from = kLast;
   for (int i = 0; i <= kLast; ++i) {
-    if (!EqualNoCase(FromUtf8(defaults.LastFiles(i)), FromUtf8(path))) continue;
+    if (FoldCaseOfUtf8(defaults.LastFiles(i)) != FoldCaseOfUtf8(path)) continue;
     from = i;
     break;
   }

@@ -65,6 +65,16 @@ void AddMissingFlags(const ConversationFile& file) {
   }
 }
 
+/// A re-linking that broke off can leave one flag twice in an event that sets flags, and a file
+/// with both could not be read.
+void DropRepeatedFlags(ConversationFile& file) {
+  for (Conversation& con : file.Conversations) {
+    for (EventItem& event : con.events) {
+      if (auto* set = event.As<EventSetFlag>()) RekeyFlagRefs(set->flagRefs);
+    }
+  }
+}
+
 }  // namespace
 
 std::string RecoveryFileName(const std::string& conFileName, Date moment) {
@@ -91,6 +101,7 @@ std::string WriteRecovery(ConversationFile& file, const std::string& folder,
   const std::string path = folder + kPathSeparator + name;
   const bool written = ResumeNext([&] {
     AddMissingFlags(file);
+    DropRepeatedFlags(file);
     CreateDirectoryPath(folder + kPathSeparator);
     FileSink sink(path);
     BinaryWriter writer(sink);

@@ -15,7 +15,8 @@ std::string PathOfCommandLine(std::string_view commandLine) {
 std::string AbsolutePath(const std::string& path) {
   if (path.empty()) return path;
   std::error_code unknown;
-  const auto absolute = std::filesystem::absolute(path, unknown).lexically_normal();
+  // A ".." behind a link leads where only the system knows, so it is left as it stands.
+  const auto absolute = std::filesystem::absolute(path, unknown);
   return unknown ? path : absolute.string();
 }
 

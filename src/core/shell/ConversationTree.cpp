@@ -131,6 +131,12 @@ TreeNode* ConversationTree::FindFlag(std::int32_t conKey, std::int32_t flagKey) 
 }
 
 TreeNode* ConversationTree::FindNode(std::string_view key) const {
+  TreeNode* node = NodeOfNumbers(key);
+  // A number can be written in more ways than the key has it.
+  return node != nullptr && node->Key() == key ? node : nullptr;
+}
+
+TreeNode* ConversationTree::NodeOfNumbers(std::string_view key) const {
   if (key.empty()) return nullptr;
   const char kind = key.front();
   key.remove_prefix(1);

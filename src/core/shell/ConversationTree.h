@@ -108,6 +108,8 @@ class ConversationTree {
   void WalkConversations(const std::function<void(std::int32_t)>& visit) const;
 
  private:
+  /// The node that the numbers of a key text stand for, however they are written.
+  [[nodiscard]] TreeNode* NodeOfNumbers(std::string_view key) const;
   TreeNode& Insert(TreeNode& parent, std::unique_ptr<TreeNode> node);
   void Forget(const TreeNode& node);
   void Place(TreeNode& node);

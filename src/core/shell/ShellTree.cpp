@@ -214,6 +214,8 @@ void Shell::RemoveSelectedFlag() {
   const auto con = GetConFromID(node.ConversationKey());
   con->flagRefs.Remove(node.id);
   tree_.RemoveNode(node);
+  // The keys go on from the conversation, and so does the popup.
+  KeepNodeSelected(*con);
   SetModified(true, con.get());
 }
 

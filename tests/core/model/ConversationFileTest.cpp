@@ -5,6 +5,7 @@
 
 #include "model/ConversationFile.h"
 #include "support/FakeControls.h"
+#include "support/FileBytes.h"
 #include "support/TestWorkspace.h"
 
 namespace parlate {
@@ -12,6 +13,7 @@ namespace {
 
 using testing_support::ErrorOf;
 using testing_support::FakeListBox;
+using testing_support::FileBytes;
 using testing_support::OpenFile;
 using testing_support::SampleFile;
 using testing_support::TestWorkspace;
@@ -68,6 +70,8 @@ TEST_F(ConversationFileTest, StartsItsKeysAnewWhenAllConversationsAreRemoved) {
 TEST_F(ConversationFileTest, StampsTheFileAndTheConversation) {
   Conversation& con = Add(0, "One");
   space_.moment = 46000.25;
+  // A clock that goes on: a second look at it would give the two different moments.
+  space_.workspace.now = [this] { return space_.moment++; };
   space_.workspace.defaults.Username = "carl";
   file_.SetModified(true, &con);
   EXPECT_TRUE(file_.IsModified());
@@ -152,6 +156,20 @@ TEST(SavedFile, GoesOnWithTheStoredKeyThoughTheHighestConversationIsGone) {
   ASSERT_TRUE(again.Load(bytes));
   EXPECT_EQ(again.file.Conversations.Count(), 1U);
   EXPECT_EQ(again.file.NextKey(), 12);
+}
+
+TEST(SavedFile, HasNoNextKeyWhenTheKeysOf32BitsAreUsedUp) {
+  for (const std::int32_t left : {1, 0}) {
+    TestWorkspace space;
+    OpenFile open(space);
+    const std::int32_t stored = INT32_MAX - left;
+    ASSERT_TRUE(open.Load(FileBytes(28).Start().Header({}).Tables({}).I32(stored).I32(0).Bytes()));
+    if (left == 1) {
+      EXPECT_EQ(open.file.NextKey(), 2147483646);
+    }
+    EXPECT_EQ(ErrorOf([&] { open.file.NextKey(); }), 6);
+    EXPECT_EQ(open.file.CurrentKey(), 2147483647) << "and the file can still be saved as it is";
+  }
 }
 
 TEST(SavedFile, ReportsItsOldVersionUntilItIsReopened) {

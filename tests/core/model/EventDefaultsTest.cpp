@@ -47,6 +47,29 @@ TEST(NewEvent, HoldsZerosOtherwise) {
   EXPECT_FALSE(EventAddGoal().bGoalCompleted);
 }
 
+TEST(NewEvent, HoldsNoTextInASpeechOrAJump) {
+  EXPECT_EQ(EventSpeech().speech, "");
+  EXPECT_EQ(EventSpeech().audioFile, "");
+  EXPECT_EQ(EventJump().label, "");
+  EXPECT_EQ(EventJump().conName, "");
+}
+
+TEST(NewEvent, OffersNoChoicesAndClearsNoScreen) {
+  EXPECT_FALSE(EventChoice().bClearScreen);
+  EXPECT_TRUE(EventChoice().Choices.Empty());
+}
+
+TEST(ChoiceItem, IsEmptyAndUnspokenWhenNew) {
+  const ChoiceItem choice;
+  EXPECT_EQ(choice.ID, 0);
+  EXPECT_EQ(choice.text, "");
+  EXPECT_FALSE(choice.bDisplayAsSpeech);
+  EXPECT_EQ(choice.skillLevel, 0);
+  EXPECT_EQ(choice.label, "");
+  EXPECT_EQ(choice.audioFile, "");
+  EXPECT_TRUE(choice.flagRefs.Empty());
+}
+
 TEST(EventSpeech, TakesActorsAndFontFromTheCombos) {
   EventSpeech speech;
   speech.Update(ComboShowing(5), ComboShowing(1), "Hello", "hello.mp3", true, false,

@@ -5,8 +5,10 @@
 
 #include <limits>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "support/ConversationScript.h"
 #include "support/FileBytes.h"
 #include "support/SampleFile.h"
 #include "support/TestWorkspace.h"
@@ -254,11 +256,25 @@ TEST_F(FileFormat, KeepsExtremeNumbers) {
   EXPECT_TRUE(open_.Save().ends_with(payload.Bytes()));
 }
 
-TEST_F(FileFormat, StoresNothingBehindAnAbsentActorOrSkill) {
+TEST_F(FileFormat, StoresNothingBehindAnAbsentActor) {
   FileBytes payload(28);
   payload.I32(-1).I32(-9).Str("Hm").Str("").Bool(false).Bool(false).I32(0);
   Load(OneEventFile(28, SampleTables(), kSpeech, payload.Bytes()).Bytes());
   EXPECT_EQ(open_.Event(1, 1).As<EventSpeech>()->ActorSpeakingToID, -9);
+  EXPECT_TRUE(open_.Save().ends_with(payload.Bytes()));
+}
+
+TEST_F(FileFormat, StoresNeitherNameNorLevelBehindAnAbsentSkill) {
+  FileBytes payload(28);
+  payload.I32(2).Bool(false).I32(2);
+  payload.I32(0).Str("Wait").Bool(false).I32(-1).Str("Start").Str("wait.mp3").I32(0);
+  payload.I32(1).Str("Go").Bool(true).I32(-7).Str("").Str("").I32(0);
+  Load(OneEventFile(28, SampleTables(), kChoice, payload.Bytes()).Bytes());
+  const auto& choices = open_.Event(1, 1).As<EventChoice>()->Choices;
+  EXPECT_EQ(choices.At(0).label, "Start");
+  EXPECT_EQ(choices.At(0).audioFile, "wait.mp3");
+  EXPECT_EQ(choices.At(1).skillID, -7);
+  choices.At(0).skillLevel = 3;  // left over from a skill that was taken away
   EXPECT_TRUE(open_.Save().ends_with(payload.Bytes()));
 }
 
@@ -305,7 +321,7 @@ TEST_F(FileFormat, TakesTheSameCodeForWhatItMeansInEachVersion) {
   EXPECT_NE(open_.Event(1, 1).As<EventAddGoal>(), nullptr);
 }
 
-TEST_F(FileFormat, KeepsConversationsInTheOrderOfTheTreeAndEventsInThatOfTheList) {
+TEST_F(FileFormat, KeepsConversationsInTheOrderOfTheTree) {
   Load(SampleFile(28));
   open_.tree.keys = {7, 0};
   const std::string bytes = open_.Save();
@@ -313,6 +329,25 @@ TEST_F(FileFormat, KeepsConversationsInTheOrderOfTheTreeAndEventsInThatOfTheList
   Load(bytes);
   EXPECT_EQ(open_.file.Conversations.KeyAt(1), 7);
   EXPECT_EQ(open_.file.Conversations.Place(2)->events.Count(), 23U);
+}
+
+TEST_F(FileFormat, KeepsEventsInTheirOrderThoughTheirRowsAndKeysSayAnother) {
+  FileBytes file(28);
+  file.Start().Header({}).Tables({}).I32(1).I32(1).Conversation({}).I32(3);
+  FileBytes events(28);
+  events.Event(5, 9, kComment, "").Str("first");
+  events.Event(0, 3, kComment, "").Str("second");
+  events.Event(2, 7, kComment, "").Str("third");
+  Load(file.Raw(events.Bytes()).Bytes());
+  const auto& loaded = open_.file.Conversations.Place(1)->events;
+  std::vector<std::pair<std::int32_t, std::string>> rows;
+  for (const EventItem& event : loaded) {
+    rows.emplace_back(event.listPos, event.As<EventComment>()->commentText);
+  }
+  EXPECT_THAT(rows,
+              ElementsAre(std::pair(5, "first"), std::pair(0, "second"), std::pair(2, "third")));
+  for (const std::int32_t key : {9, 3, 7}) EXPECT_EQ(loaded.At(key).key, key);
+  EXPECT_TRUE(open_.Save().ends_with(events.Bytes()));
 }
 
 TEST_F(FileFormat, KeepsTwoEventsOfOneLabelAsOneLabel) {
@@ -338,18 +373,18 @@ TEST_F(FileFormat, StampsAndSettlesTheFileOnASave) {
 }
 
 TEST_F(FileFormat, ShowsItsProgressOncePerConversation) {
-  Load(SampleFile(28));
+  Load(testing_support::HarbourFile());
   EXPECT_EQ(open_.progress.caption, "Loading Conversations...");
-  EXPECT_THAT(open_.progress.texts, ElementsAre("Tables", "Greeting", "Leaving"));
-  EXPECT_THAT(open_.progress.tops, ElementsAre(2, 2));
-  EXPECT_THAT(open_.progress.values, ElementsAre(1, 2));
+  EXPECT_THAT(open_.progress.texts, ElementsAre("Tables", "greeting", "Arrival", "Leaving"));
+  EXPECT_THAT(open_.progress.tops, ElementsAre(2, 3)) << "the count stands behind the tables";
+  EXPECT_THAT(open_.progress.values, ElementsAre(1, 2, 3));
   EXPECT_FALSE(open_.progress.showing);
   open_.progress = {};
   (void)open_.Save();
   EXPECT_EQ(open_.progress.caption, "Saving Conversations...");
-  EXPECT_THAT(open_.progress.texts, ElementsAre("Tables", "Greeting", "Leaving"));
-  EXPECT_THAT(open_.progress.tops, ElementsAre(2));
-  EXPECT_THAT(open_.progress.values, ElementsAre(1, 2));
+  EXPECT_THAT(open_.progress.texts, ElementsAre("Tables", "greeting", "Arrival", "Leaving"));
+  EXPECT_THAT(open_.progress.tops, ElementsAre(3));
+  EXPECT_THAT(open_.progress.values, ElementsAre(1, 2, 3));
   EXPECT_FALSE(open_.progress.showing);
 }
 

@@ -121,6 +121,12 @@ TEST(Saving, FailsForAnObjectOfMinusOneButNotForAnActor) {
         open.Load(OneEventFile(28, SampleTables(), type, payloads[type - kCheckObject]).Bytes()));
     EXPECT_EQ(ErrorOf([&] { (void)open.Save(); }), 5);
   }
+  TestWorkspace space;
+  OpenFile open(space);
+  const std::string noActors =
+      FileBytes(28).I32(4).Str("Key").I32(1).I32(-1).I32(-1).Str("").Bytes();
+  ASSERT_TRUE(open.Load(OneEventFile(28, SampleTables(), kTransferObject, noActors).Bytes()));
+  EXPECT_TRUE(open.Save().ends_with(noActors)) << "and no name stands behind their numbers";
 }
 
 TEST(Saving, WithMissingNamesAllowedWritesThemEmpty) {

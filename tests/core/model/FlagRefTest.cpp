@@ -1,10 +1,14 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <string>
 #include <vector>
 
+#include "general/BinaryFile.h"
 #include "model/FlagRef.h"
+#include "model/records/RecordReader.h"
 #include "support/FakeControls.h"
+#include "support/FileBytes.h"
 #include "support/TestWorkspace.h"
 
 namespace parlate {
@@ -13,6 +17,7 @@ namespace {
 using testing_support::ErrorOf;
 using testing_support::FakeListBox;
 using testing_support::FakeRow;
+using testing_support::FileBytes;
 using testing_support::TestWorkspace;
 
 std::shared_ptr<FlagRef> NewFlag(std::int32_t id, bool value, std::int32_t expiration) {
@@ -92,6 +97,40 @@ TEST(FlagList, TakesTheRowsSelectedInThePicker) {
   EXPECT_EQ(flags.At(3).expiration, 0) << "a row that is not selected is left alone";
   EXPECT_EQ(flags.At(8).flagID, 8);
   EXPECT_EQ(flags.At(8).expiration, 6);
+}
+
+class FlagListRead : public testing::Test {
+ protected:
+  void Read(const std::vector<testing_support::FlagFields>& stored) {
+    const std::string bytes = FileBytes(28).Flags(stored).Bytes();
+    MemorySource source(bytes);
+    BinaryReader reader(source);
+    RecordReader in{reader, 28, {}};
+    LoadFlagRefs(in, flags_);
+    EXPECT_EQ(reader.Remaining(), 0U);
+  }
+
+  FlagList flags_;
+};
+
+TEST_F(FlagListRead, StandsBehindWhatTheListHoldsAlready) {
+  flags_.Add(9, NewFlag(9, true, 6));
+  Read({{3, "Lamp", false, 0}, {2, "Door", true, 4}});
+  ASSERT_EQ(flags_.Count(), 3U);
+  EXPECT_EQ(flags_.KeyAt(1), 9);
+  EXPECT_EQ(flags_.KeyAt(2), 3);
+  EXPECT_EQ(flags_.KeyAt(3), 2);
+  EXPECT_EQ(flags_.At(9).expiration, 6) << "what was there is left alone";
+  EXPECT_EQ(flags_.At(2).flagID, 2);
+  EXPECT_TRUE(flags_.At(2).bValue);
+  EXPECT_EQ(flags_.At(2).expiration, 4);
+}
+
+TEST_F(FlagListRead, RefusesAFlagThatTheListHoldsAlready) {
+  flags_.Add(2, NewFlag(2, false, 6));
+  EXPECT_EQ(ErrorOf([this] { Read({{3, "Lamp", false, 0}, {2, "Door", true, 4}}); }), 457);
+  EXPECT_EQ(flags_.Count(), 2U);
+  EXPECT_EQ(flags_.At(2).expiration, 6);
 }
 
 TEST(FlagList, FillsAListWithOrWithoutExpirations) {

@@ -93,6 +93,17 @@ TEST_F(TableCombos, TakeAnEntryThatIsInTheTableWithoutAsking) {
   EXPECT_TRUE(ValidateComboEntry(combo_, kActorTable, true));
 }
 
+TEST_F(TableCombos, TakeARowOfTheTableThatCameByWayOfAnotherCombo) {
+  AddTableItem(kActorTable, "Ann");
+  combo_.text = "Ann";
+  EXPECT_TRUE(ValidateComboEntry(combo_, kActorTable, true));
+  EXPECT_EQ(GetComboItemID(combo_), 5);
+  EXPECT_EQ(combo_.entries.back(), (FakeRow{"Ann", 5}));
+  EXPECT_TRUE(ValidateComboEntry(combo_, kActorTable, false));
+  EXPECT_EQ(combo_.entries.size(), 3U);
+  EXPECT_TRUE(space_.messages.shown.empty());
+}
+
 TEST_F(TableCombos, DoNothingForAHiddenComboOrAnEmptyText) {
   combo_.text = "Bob";
   combo_.visible = false;
@@ -140,9 +151,11 @@ class FakeTableEditor final : public TableEditor {
   std::int32_t EditTableDialog(std::int32_t tableType) override {
     edited = tableType;
     AddTableItem(tableType, "Ann");
+    if (removed != -1) RemoveTableItem(tableType, removed, "");
     return chosen;
   }
   std::int32_t chosen = -1;
+  std::int32_t removed = -1;
   std::int32_t edited = -1;
 };
 
@@ -163,6 +176,15 @@ TEST_F(TableCombos, SelectWhatWasSelectedAfterACancelledEditor) {
   combo_.selected = 1;
   EXPECT_EQ(EditTableFromCombo(kActorTable, combo_), 2);
   EXPECT_EQ(combo_.selected, 1);
+}
+
+TEST_F(TableCombos, SelectNothingWhenWhatWasSelectedHasGone) {
+  FakeTableEditor editor;
+  editor.removed = 2;
+  space_.workspace.tableEditor = &editor;
+  combo_.selected = 1;
+  EXPECT_EQ(EditTableFromCombo(kActorTable, combo_), -1);
+  EXPECT_EQ(combo_.selected, -1);
 }
 
 TEST_F(TableCombos, SelectNothingWhenNothingWasSelectedAndTheEditorIsCancelled) {

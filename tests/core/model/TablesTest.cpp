@@ -100,6 +100,13 @@ TEST_F(Tables, RefuseARowWhenTheIdsAreUsedUp) {
   EXPECT_TRUE(GetTable(kActorTable)->Empty()) << "a row whose ID no file can hold";
 }
 
+TEST_F(Tables, HaveNoNextIdOfATypeOutsideOfTheSix) {
+  for (const std::int32_t type : {6, 7, INT32_MAX, -1, INT32_MIN}) {
+    EXPECT_EQ(ErrorOf([type] { AppendTableItem(type, "Row"); }), 9) << type;
+  }
+  EXPECT_THAT(next_, ElementsAre(0, 0, 0, 0, 0, 0));
+}
+
 TEST_F(Tables, HealAReferenceByItsIdThenItsNameThenANewRow) {
   TestWorkspace::AddRows(kActorTable, {{3, "Bob"}, {7, "Zoe"}});
   EXPECT_EQ(ResolveTableItem(kActorTable, 3, "Zoe"), 3) << "the name is not compared";

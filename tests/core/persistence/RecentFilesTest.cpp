@@ -54,6 +54,35 @@ TEST_F(RecentFiles, FoldTheCaseOfAccentedLettersToo) {
   EXPECT_THAT(Files(), ElementsAre("/caf\xC3\xA9.con", "/a.con", "/b.con", "/c.con"));
 }
 
+TEST_F(RecentFiles, FoldTheCaseOfALetterBesideOneThatIsNotOfTheCodePage) {
+  Add("/k/\xC4\x85\xC3\x89.con");
+  Add("/k/\xC4\x85\xC3\xA9.con");
+  EXPECT_THAT(Files(), ElementsAre("/k/\xC4\x85\xC3\xA9.con", "/a.con", "/b.con", "/c.con"));
+}
+
+TEST_F(RecentFiles, TellLettersApartThatAreNotOfTheCodePage) {
+  Add("/k/\xE6\x97\xA5.con");
+  Add("/k/\xE6\x9C\xAC.con");
+  Add("/k/?.con");
+  EXPECT_THAT(Files(),
+              ElementsAre("/k/?.con", "/k/\xE6\x9C\xAC.con", "/k/\xE6\x97\xA5.con", "/a.con"));
+}
+
+TEST_F(RecentFiles, TellBytesApartThatAreNoUtf8) {
+  Add("/k/\xFF.con");
+  Add("/k/\xFE.con");
+  EXPECT_THAT(Files(), ElementsAre("/k/\xFE.con", "/k/\xFF.con", "/a.con", "/b.con"));
+  Add("/k/\xC3\xA9.con");
+  Add("/k/\xE9.con");
+  EXPECT_THAT(Files(), ElementsAre("/k/\xE9.con", "/k/\xC3\xA9.con", "/k/\xFE.con", "/k/\xFF.con"))
+      << "a byte of the code page is not the letter that it stands for there";
+}
+
+TEST_F(RecentFiles, TellALetterApartFromTheSameInMoreBytesThanItTakes) {
+  Add("/\xC1\x81.con");
+  EXPECT_THAT(Files(), ElementsAre("/\xC1\x81.con", "/a.con", "/b.con", "/c.con"));
+}
+
 TEST_F(RecentFiles, IgnoreAnEmptyPath) {
   Add("");
   EXPECT_THAT(Files(), ElementsAre("/a.con", "/b.con", "/c.con", "/d.con"));

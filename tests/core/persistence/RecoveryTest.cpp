@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <memory>
 #include <string>
 
 #include "general/Date.h"
@@ -59,6 +61,39 @@ TEST(Recovery, WritesAReferenceToAMissingRowWithoutItsName) {
   OpenFile again(space);
   ASSERT_TRUE(again.Load(ReadBytes(path)));
   EXPECT_EQ(again.file.Conversations.Place(1)->flagRefs.Count(), 2U);
+}
+
+TEST(Recovery, WritesAFlagThatAnEventSetsTwiceAsItsFirstEntryHasIt) {
+  const TemporaryFolder folder;
+  TestWorkspace space;
+  space.AddSampleTables();
+  auto set = std::make_shared<EventItem>();
+  set->key = 1;
+  FlagList& flags = set->SetEventObject(kSetFlags, EventSetFlag{}).flagRefs;
+  for (const std::int32_t expiration : {6, 4}) {
+    auto flag = std::make_shared<FlagRef>();
+    flag->flagID = 2;
+    flag->expiration = expiration;
+    flags.Add(expiration == 6 ? 3 : 2, flag);  // the later one alone bears the flag's own key
+  }
+  auto end = std::make_shared<EventItem>();
+  end->key = 2;
+  end->SetEventObject(kEnd, EventEnd{});
+  auto con = std::make_shared<Conversation>();
+  con->NPCID = 1;
+  con->events.Add(1, set);
+  con->events.Add(2, end);
+  ConversationFile file;
+  file.Conversations.Add(0, con);
+  const std::string path = WriteRecovery(file, folder.Path(), "a.con");
+  ASSERT_NE(path, "");
+  ClearTables();
+  OpenFile again(space);
+  ASSERT_TRUE(again.Load(ReadBytes(path)));
+  const FlagList& read = again.Event(1, 1).As<EventSetFlag>()->flagRefs;
+  ASSERT_EQ(read.Count(), 1U);
+  EXPECT_EQ(read.At(2).expiration, 6);
+  EXPECT_EQ(again.Event(1, 2).eventType, kEnd) << "the count agrees with what was written";
 }
 
 TEST(Recovery, GivesNoPathWhenItCannotBeWritten) {

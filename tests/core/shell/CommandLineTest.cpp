@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "shell/CommandLine.h"
+#include "support/TemporaryFolder.h"
 
 namespace parlate {
 namespace {
@@ -32,11 +33,29 @@ TEST(CommandLine, KeepsAQuoteThatDoesNotStandFirst) {
   EXPECT_EQ(PathOfCommandLine("a\"b\""), "a\"b\"");
 }
 
-TEST(CommandLine, MakesAPathAbsoluteAndLeavesAnEmptyOneEmpty) {
+TEST(CommandLine, PutsAPathBehindTheWorkingFolderAndLeavesAnEmptyOneEmpty) {
+  const std::string here = std::filesystem::current_path().string() + "/";
   EXPECT_EQ(AbsolutePath(""), "");
+  EXPECT_EQ(AbsolutePath("a b.con"), here + "a b.con");
+  EXPECT_EQ(AbsolutePath("link/../x.con"), here + "link/../x.con");
+}
+
+TEST(CommandLine, LeavesAnAbsolutePathAsItIs) {
   EXPECT_EQ(AbsolutePath("/cons/a.con"), "/cons/a.con");
-  EXPECT_EQ(AbsolutePath("/cons/../b/./a.con"), "/b/a.con");
-  EXPECT_EQ(AbsolutePath("a b.con"), (std::filesystem::current_path() / "a b.con").string());
+  EXPECT_EQ(AbsolutePath("/cons/../b/./a.con"), "/cons/../b/./a.con");
+}
+
+TEST(CommandLine, NamesTheFileThatTheSystemMeansBehindALink) {
+  const testing_support::TemporaryFolder folder;
+  std::filesystem::create_directories(folder.File("far/deep"));
+  std::filesystem::create_directory_symlink("far/deep", folder.File("link"));
+  testing_support::WriteBytes(folder.File("far/x.con"), "meant");
+  testing_support::WriteBytes(folder.File("x.con"), "another");
+  const std::filesystem::path before = std::filesystem::current_path();
+  std::filesystem::current_path(folder.Path());
+  const std::string path = AbsolutePath("link/../x.con");
+  std::filesystem::current_path(before);
+  EXPECT_EQ(testing_support::ReadBytes(path), "meant");
 }
 
 TEST(CommandLine, SplitsAtBlanksAndTabs) {

@@ -198,11 +198,16 @@ TEST_F(ShellCommands, AreUpdatedByTheOperationsThatChangeThem) {
   Click("C0");
   EXPECT_TRUE(updates([this] { Window().SelectConversation(); }));
   ClickRow(1);
+  EXPECT_TRUE(updates([this] { Window().UpdateEditEvent(*Window().GetSelectedEvent()); }));
   EXPECT_TRUE(updates([this] { Window().CopySelectedEvent(); }));
   EXPECT_TRUE(updates([this] { Window().PasteEvent(); }));
   EXPECT_TRUE(updates([this] { Window().CutSelectedEvent(); }));
   Window().lstEvents().SetListIndex(1);
   EXPECT_TRUE(updates([this] { Window().DeleteSelectedEvent(true); }));
+  const auto comment = std::make_shared<EventItem>();
+  comment->SetEventObject(kComment, EventComment{});
+  comment->key = Window().SelectedCon()->NextEventKey();
+  EXPECT_TRUE(updates([&] { Window().UpdateAddEvent(comment, false); }));
   EXPECT_FALSE(updates([this] { Window().CopyConversation(); })) << "the one that does not";
   EXPECT_TRUE(updates([this] { Window().PasteConversation(); }));
   EXPECT_TRUE(updates([this] { Window().DeleteConversation(true); }));

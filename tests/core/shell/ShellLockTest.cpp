@@ -1,14 +1,10 @@
 // The lock beside a file: what is asked when there is one, and what each answer leads to.
 
-#include <sys/socket.h>
-#include <sys/un.h>
-#include <unistd.h>
-
-#include <cstring>
 #include <filesystem>
 
 #include "general/Paths.h"
 #include "support/ShellFixture.h"
+#include "support/UnopenableFile.h"
 
 namespace parlate {
 namespace {
@@ -119,26 +115,6 @@ TEST_F(ShellLock, ThatCannotBeWrittenIsReportedAndTheOpenGoesOn) {
   EXPECT_NE(Window().GetConFile(), nullptr);
   EXPECT_FALSE(Window().IsReadOnly());
 }
-
-/// A file in the folder that is there but can be opened by nobody, not even the superuser.
-class UnopenableFile {
- public:
-  explicit UnopenableFile(const std::string& path)
-      : descriptor_(::socket(AF_UNIX, SOCK_STREAM, 0)) {
-    sockaddr_un address{};
-    address.sun_family = AF_UNIX;
-    std::strncpy(address.sun_path, path.c_str(), sizeof(address.sun_path) - 1);
-    bound_ = ::bind(descriptor_, reinterpret_cast<const sockaddr*>(&address), sizeof(address)) == 0;
-  }
-  ~UnopenableFile() { ::close(descriptor_); }
-  UnopenableFile(const UnopenableFile&) = delete;
-  UnopenableFile& operator=(const UnopenableFile&) = delete;
-  [[nodiscard]] bool Bound() const { return bound_; }
-
- private:
-  int descriptor_;
-  bool bound_ = false;
-};
 
 TEST_F(ShellLock, ThatCannotBeReadCountsAsNone) {
   const UnopenableFile lock(Lock());

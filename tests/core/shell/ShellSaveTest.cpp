@@ -310,6 +310,27 @@ TEST_F(ShellBackup, ThatCannotMoveAsideEndsWithoutAWordAndTheSaveGoesOn) {
   EXPECT_NE(ReadBytes(Path("harbour.con")), first);
 }
 
+TEST_F(ShellBackup, OfABackupThatLiesAmongTheBackupsEndsWithoutAWordAndTheSaveGoesOn) {
+  // The file is in the way of its own image, and that would be moved aside to where it is.
+  Defaults().ConBackupPath = folder_.Path();
+  const std::string opened = FileOf(
+      HarbourTables(), {Con(0, "Alone", kZoe, {Speech(1, "", kZoe, "Hello", ""), End(2, "")})});
+  Open(opened, "harbour.bak");
+  Window().SetModified(true, nullptr);
+  EXPECT_EQ(FilesWrittenBySave(), 1) << "the file itself";
+  EXPECT_EQ(BoxCount(), 0U);
+  EXPECT_FALSE(Window().GetConFile()->IsModified());
+  HeaderFields saved;
+  saved.lastUpdated = kSavedAt;
+  saved.lastUpdatedBy = kSavedBy;
+  saved.notes = "first";
+  const std::size_t header = FileBytes(28).Start().Header({}).Size();
+  EXPECT_EQ(ReadBytes(Path("harbour.bak")),
+            FileBytes(28).Start().Header(saved).Bytes() + opened.substr(header))
+      << "shorter than it was: the file was deleted on the way and made anew";
+  EXPECT_FALSE(FileExists(Path("harbour.con")));
+}
+
 TEST_F(ShellBackup, OfASaveUnderANewNameBearsTheNewName) {
   OpenHarbour();
   program_.dialogs.Expect(Path("copy.con"));

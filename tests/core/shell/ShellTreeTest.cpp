@@ -75,8 +75,20 @@ TEST_F(ShellTree, SelectingByKeyGoesToTheConversationAndIgnoresAnUnknownOne) {
   Window().SelectConversationByKey("2");
   EXPECT_EQ(Window().tvCons().SelectedItem(), &Node("C2"));
   EXPECT_EQ(Window().SelectedCon().get(), &ConOf(2));
-  for (const char* unknown : {"77", "", "x", "2,0"}) Window().SelectConversationByKey(unknown);
-  EXPECT_EQ(Window().SelectedCon().get(), &ConOf(2));
+  Click("C1");
+  for (const char* unknown : {"77", "", "x", "2,0", "02", "+2", " 2", "2 "}) {
+    Window().SelectConversationByKey(unknown);
+    EXPECT_EQ(Window().tvCons().SelectedItem(), &Node("C1")) << unknown;
+    EXPECT_EQ(Window().SelectedCon().get(), &ConOf(1)) << unknown;
+  }
+}
+
+TEST_F(ShellTree, NodesAreFoundByTheKeyThatTheyBearAndByNoOther) {
+  for (const char* key : {"A1", "C2", "F2,0"}) EXPECT_EQ(Node(key).Key(), key);
+  for (const char* other : {"C2,0", "C02", "C-0", "A1,5", "A01", "F2", "F02,0", "F2,00", "F2,0,0",
+                            "F2,1", "c2", "C", "2", ""}) {
+    EXPECT_EQ(Window().tvCons().FindNode(other), nullptr) << other;
+  }
 }
 
 TEST_F(ShellTree, FindsConversationsByKeyByNodeAndByName) {
