@@ -25,7 +25,7 @@ struct PasteOptions {
 void Paste(const PasteOptions& options) {
   Session from;
   options.save.Apply(from);
-  from.LoadOneOfTwo(options.from);
+  from.Load(options.from);
   const auto con = from.GetConFromID(options.key);
   if (!con) {
     throw RuntimeError(
@@ -39,7 +39,7 @@ void Paste(const PasteOptions& options) {
   options.save.Apply(into);
   // The links of what is on the clipboard go with it from one file to the other.
   into.workspace.tables.tableBuffer = std::move(from.workspace.tables.tableBuffer);
-  into.LoadOneOfTwo(options.into);
+  into.Load(options.into);
   into.TreeViewAddConversation(clipboard.Paste(into.file), true);
   into.Save(options.out);
 }

@@ -18,9 +18,7 @@ std::unique_ptr<ByteSource> OpenInput(const std::string& path) {
 
 }  // namespace
 
-void Session::Load(const std::string& path) { LoadFrom(*OpenInput(path)); }
-
-void Session::LoadOneOfTwo(const std::string& path) {
+void Session::Load(const std::string& path) {
   const std::unique_ptr<ByteSource> source = OpenInput(path);
   NamingFile(path, [&] { LoadFrom(*source); });
 }

@@ -33,11 +33,9 @@ void NamingFile(const std::string& path, Work work) {
 /// refusal.
 class Session final : public WindowlessFile {
  public:
-  /// Throws Refusal, or RuntimeError: with the path for a file that cannot be opened, and with the
-  /// place of the damage for one that can.
+  /// Throws Refusal, or RuntimeError: with the path, and with the place of the damage for a file
+  /// that can be opened.
   void Load(const std::string& path);
-  /// The same of two files that a command takes: each failure has the path.
-  void LoadOneOfTwo(const std::string& path);
   /// Writes to a new file beside `path` that takes its place when it is whole: nothing is left
   /// behind on a failure.
   void Save(const std::string& path);

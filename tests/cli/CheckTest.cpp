@@ -126,8 +126,8 @@ TEST_F(CheckLostFlag, OfAConversationIsToldWithItsPlaceSinceTheEditorReadsNoFurt
     EXPECT_THAT(ran.out, IsEmpty());
     EXPECT_EQ(
         ran.err,
-        "parlate-cli: conversation 2 of 3 (Qu\xC3\xA9rel ), flag 2, the table Flag has no row "
-        "8 (offset " +
+        "parlate-cli: " + folder_.File("in.con") +
+            ", conversation 2 of 3 (Qu\xC3\xA9rel ), flag 2, the table Flag has no row 8 (offset " +
             std::to_string(startOfSecond_) + ")\n");
   }
 }

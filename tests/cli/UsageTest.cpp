@@ -10,6 +10,7 @@
 #include "CliRun.h"
 #include "support/SampleFile.h"
 #include "support/TemporaryFolder.h"
+#include "support/UnopenableFile.h"
 
 namespace parlate::cli {
 namespace {
@@ -157,6 +158,16 @@ TEST_P(EachCommand, FailsForAFolder) {
   EXPECT_EQ(ran.err, "parlate-cli: " + folder_.Path() + ", Path/File access error\n");
 }
 
+TEST_P(EachCommand, FailsForAFileThatIsThereAndCannotBeOpened) {
+  const std::string path = folder_.File("in.con");
+  const testing_support::UnopenableFile file(path);
+  ASSERT_TRUE(file.Bound());
+  const Ran ran = RunOn(path);
+  EXPECT_EQ(ran.code, 2);
+  ExpectOneErrorLine(ran);
+  EXPECT_EQ(ran.err, "parlate-cli: " + path + ", Device I/O error\n");
+}
+
 TEST_P(EachCommand, RefusesWhatIsNoConversationFile) {
   for (const char* bytes : {"", "Orrivex", "something else that is long enough"}) {
     const Ran ran = RunOnBytes(bytes);
@@ -199,8 +210,9 @@ TEST_P(EachCommand, TellsTheRecordAndTheByteOfADamage) {
   EXPECT_EQ(ran.code, 2);
   ExpectOneErrorLine(ran);
   EXPECT_EQ(ran.err,
-            "parlate-cli: conversation 3 of 12, event 5, string of 70000 bytes runs past the end "
-            "of the file (offset " +
+            "parlate-cli: " + folder_.File("in.con") +
+                ", conversation 3 of 12, event 5, string of 70000 bytes runs past the end of the "
+                "file (offset " +
                 place + ")\n");
 }
 
