@@ -82,6 +82,8 @@ class Shell final : public ConversationDirectory, public ConversationTreeOrder {
   /// Writes the open file to `folder` as best as can be done and returns the path; empty with no
   /// file open or when nothing could be written.
   std::string WriteRecoveryFile(const std::string& folder);
+  /// Removes the lock of the open file, if there is one and it is ours.
+  void ReleaseLock();
 
   // Printing.
   /// Prints all conversations or the selected one, after the options unless they are skipped.

@@ -219,7 +219,7 @@ void Shell::MakeBackup(const std::string& path) {
 Boolean Shell::CloseConFile() {
   view_.UnloadEventEditor();
   if (!PromptSaveChanges()) return false;
-  if (!bReadOnly_ && !conFileName.empty()) RemoveLock(conFileName);
+  ReleaseLock();
   conFileName.clear();
   SetSelectedCon(nullptr);
   conFile_.reset();
@@ -229,6 +229,10 @@ Boolean Shell::CloseConFile() {
   ClearTables();
   UpdateCommandStates();
   return true;
+}
+
+void Shell::ReleaseLock() {
+  if (!bReadOnly_ && !conFileName.empty()) RemoveLock(conFileName);
 }
 
 Boolean Shell::PromptSaveChanges() {

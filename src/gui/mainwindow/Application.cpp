@@ -3,22 +3,32 @@
 #include <QFile>
 #include <QStandardPaths>
 #include <cstdlib>
+#include <iostream>
 #include <utility>
 
 #include "general/CodePage.h"
 #include "general/RuntimeError.h"
 #include "platform/AltLetters.h"
+#include "platform/EndSignals.h"
 
 namespace parlate {
 
 namespace {
 
 constexpr int kFatalExitCode = 1;
+constexpr int kSignalExitCode = 128;  // and the number of the signal, as shells count
 
 std::string ErrorText(const std::exception& error) {
   const auto* runtime = dynamic_cast<const RuntimeError*>(&error);
   if (runtime == nullptr) return std::string("Run-time error:\n\n") + error.what();
   return "Run-time error '" + std::to_string(runtime->Number()) + "':\n\n" + runtime->Description();
+}
+
+/// Writes the open file to the recovery folder, and says how that went.
+std::string Rescue(Shell& shell) {
+  const std::string path = shell.WriteRecoveryFile(RecoveryFolder());
+  return path.empty() ? "The open file could not be saved."
+                      : "The open file was saved as\n" + FromUtf8(path);
 }
 
 }  // namespace
@@ -30,12 +40,16 @@ std::string RecoveryFolder() {
 
 void ReportFatalError(const std::exception& error, Shell& shell, MessageBoxes& messages) {
   std::string text = ErrorText(error);
-  if (shell.GetConFile() != nullptr) {
-    const std::string path = shell.WriteRecoveryFile(RecoveryFolder());
-    text += path.empty() ? "\n\nThe open file could not be saved."
-                         : "\n\nThe open file was saved as\n" + FromUtf8(path);
-  }
+  if (shell.GetConFile() != nullptr) text += "\n\n" + Rescue(shell);
   messages.Show({"", text, MessageBox::Icon::Critical, MessageBox::Buttons::Ok});
+}
+
+std::string LetFileGo(Shell& shell) {
+  const ConversationFile* file = shell.GetConFile();
+  std::string said;
+  if (file != nullptr && file->IsModified()) said = Rescue(shell);
+  shell.ReleaseLock();
+  return said;
 }
 
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
@@ -67,11 +81,30 @@ bool Application::notify(QObject* receiver, QEvent* event) {
   return false;
 }
 
+bool Application::event(QEvent* event) {
+  if (event->type() != EndRequest::EventType()) return QApplication::event(event);
+  EndBySignal(static_cast<const EndRequest*>(event)->Signal());
+}
+
+void Application::EndBySignal(int signal) {
+  // A fatal error that is still being told has rescued the file and leaves its lock.
+  if (failing_) std::_Exit(kFatalExitCode);
+  if (shell_ != nullptr) {
+    const std::string said = LetFileGo(*shell_);
+    if (!said.empty()) std::cerr << ToUtf8(said) << std::endl;
+  }
+  std::_Exit(kSignalExitCode + signal);
+}
+
 void Application::Fail(const std::exception& error) {
   // A second error, while the first is being told, has nothing left to rescue.
   const bool first = !std::exchange(failing_, true);
   if (first && shell_ != nullptr && messages_ != nullptr) {
-    ReportFatalError(error, *shell_, *messages_);
+    try {
+      ReportFatalError(error, *shell_, *messages_);
+    } catch (const std::exception&) {
+      // There is nobody left to tell.
+    }
   }
   // Nothing of the interrupted work may run on, not even its destructors.
   std::_Exit(kFatalExitCode);

@@ -26,8 +26,12 @@ class Application final : public QApplication {
 
   bool notify(QObject* receiver, QEvent* event) override;
 
+ protected:
+  bool event(QEvent* event) override;
+
  private:
   void Fail(const std::exception& error);
+  [[noreturn]] void EndBySignal(int signal);
 
   Shell* shell_ = nullptr;
   MessageBoxes* messages_ = nullptr;
@@ -37,6 +41,10 @@ class Application final : public QApplication {
 /// Writes the open file of the shell to the recovery folder and tells the error and where the
 /// rescued file lies.
 void ReportFatalError(const std::exception& error, Shell& shell, MessageBoxes& messages);
+
+/// Lets go of the open file when nobody is there to be asked: unsaved changes go to the recovery
+/// folder, and the lock is removed. Returns what is to be said about it, nothing without changes.
+[[nodiscard]] std::string LetFileGo(Shell& shell);
 
 /// Where rescued files go: Parlate/recovery in the user's data folder.
 [[nodiscard]] std::string RecoveryFolder();

@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "platform/EndSignals.h"
 #include "platform/FormControls.h"
 #include "platform/TwipsConversion.h"
 #include "widgets/CodePageText.h"
@@ -151,7 +152,7 @@ void frmProgress::PaintLastState() {
 }
 
 void frmProgress::LetInterfacePaint() {
-  // Keys and clicks wait, but a request to close a window counts as neither.
+  // Keys and clicks wait, but a request to close a window or to end the program counts as neither.
   qApp->installEventFilter(this);
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
   qApp->removeEventFilter(this);
@@ -159,7 +160,8 @@ void frmProgress::LetInterfacePaint() {
 
 bool frmProgress::eventFilter(QObject* watched, QEvent* event) {
   // The walk is in the middle of the file that a closing window would drop.
-  if (event->type() != QEvent::Close || !event->spontaneous()) {
+  const bool closes = event->type() == QEvent::Close && event->spontaneous();
+  if (!closes && event->type() != EndRequest::EventType()) {
     return QDialog::eventFilter(watched, event);
   }
   event->ignore();

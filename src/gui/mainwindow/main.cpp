@@ -4,6 +4,7 @@
 
 #include "mainwindow/Application.h"
 #include "mainwindow/frmConvList.h"
+#include "platform/EndSignals.h"
 #include "platform/FontSetup.h"
 #include "platform/IniSettingsStore.h"
 #include "platform/QtFileDialogs.h"
@@ -22,6 +23,7 @@ std::string CommandLine(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  parlate::EndSignals endSignals;
   parlate::Application application(argc, argv);
   parlate::ApplyLook();
   parlate::QtMessageBoxes messages;
@@ -30,6 +32,7 @@ int main(int argc, char** argv) {
   parlate::QtPrinters printers;
   parlate::frmConvList window(messages, dialogs, settings, &printers);
   application.Protect(window.shell(), messages);
+  endSignals.Listen();
   return application.Run([&] {
     if (!window.InitMainWindow()) return false;
     window.Start(CommandLine(argc, argv));

@@ -4,8 +4,10 @@
 #include <QElapsedTimer>
 #include <QTest>
 #include <QWindow>
+#include <csignal>
 
 #include "mainwindow/frmProgress.h"
+#include "platform/EndRequests.h"
 #include "platform/Modal.h"
 #include "platform/PaintCounter.h"
 #include "platform/TwipsConversion.h"
@@ -218,6 +220,19 @@ TEST_F(FrmProgressTest, NoWindowClosesBetweenTheSteps) {
   CloseByItsFrame(other);
   QCoreApplication::processEvents();
   EXPECT_EQ(other.asked, 1);
+}
+
+TEST_F(FrmProgressTest, NoSignalEndsTheProgramBetweenTheSteps) {
+  EndSignals ends;
+  ends.Listen();
+  EndRequests requests;
+  progress_.Begin("Progress", "text", 100);
+  QTest::qSleep(20);
+  std::raise(SIGTERM);
+  progress_.Step("text", 1);
+  EXPECT_TRUE(requests.taken.empty());
+  progress_.End();
+  EXPECT_TRUE(requests.Hears(1));
 }
 
 }  // namespace
