@@ -5,6 +5,8 @@
 
 namespace parlate {
 
+class RuntimeError;
+
 /// A synchronous message box. Texts are code-page text; a line feed breaks the line.
 struct MessageBox {
   enum class Icon { None, Information, Question, Exclamation, Critical };
@@ -15,6 +17,9 @@ struct MessageBox {
   Icon icon = Icon::None;
   Buttons buttons = Buttons::Ok;
 };
+
+/// The box of an error that the user can do something about: "Error 6: Overflow".
+[[nodiscard]] MessageBox BoxOf(const RuntimeError& error);
 
 enum class Answer { Ok, Yes, No, Cancel };
 

@@ -30,10 +30,7 @@ void Shell::Tell(const std::string& title, const std::string& text, MessageBox::
   doors_.messages.Show({title, text, icon, MessageBox::Buttons::Ok});
 }
 
-void Shell::TellError(const RuntimeError& error) {
-  Tell("", "Error " + std::to_string(error.Number()) + ": " + error.Description(),
-       MessageBox::Icon::None);
-}
+void Shell::TellError(const RuntimeError& error) { doors_.messages.Show(BoxOf(error)); }
 
 void Shell::SetModified(Boolean bNewState, Conversation* con) {
   if (conFile_) conFile_->SetModified(bNewState, con);

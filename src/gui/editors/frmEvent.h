@@ -79,6 +79,8 @@ class frmEvent : public QDialog, public PanelHost {
 
   void Update();
   [[nodiscard]] bool CheckLabelUnique();
+  /// Whether what stands in the panel's field for a number is one; if not, the user is told.
+  [[nodiscard]] bool CheckNumber();
   [[nodiscard]] bool IsLabelUnique();
   void CommitNewEvent();
   void CommitEditedEvent();

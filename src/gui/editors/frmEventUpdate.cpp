@@ -1,6 +1,8 @@
 // How what was typed in the event editor is stored.
 
 #include "editors/frmEvent.h"
+#include "editors/panels/PanelControls.h"
+#include "platform/FormControls.h"
 #include "widgets/CodePageText.h"
 
 namespace parlate {
@@ -21,6 +23,7 @@ void frmEvent::Update() {
   // A new event goes to the conversation that is selected by now, and so does its label.
   if (bEditMode_ != 1 && doors_.shell.SelectedCon()) currentCon_ = doors_.shell.SelectedCon();
   if (CheckLabelUnique()) {
+    if (!CheckNumber()) return;
     if (bEditMode_ == 1) {
       CommitEditedEvent();
     } else {
@@ -38,6 +41,19 @@ bool frmEvent::CheckLabelUnique() {
   txtLabel.setFocus();
   txtLabel.selectAll();
   return false;
+}
+
+bool frmEvent::CheckNumber() {
+  const NumberField number = Panel(panelIndex_).Number();
+  if (number.field == nullptr) return true;
+  try {
+    static_cast<void>(number.read(LineText(*number.field)));
+    return true;
+  } catch (const RuntimeError& error) {
+    doors_.messages.Show(BoxOf(error));
+    FocusWholeText(*number.field);
+    return false;
+  }
 }
 
 bool frmEvent::IsLabelUnique() {

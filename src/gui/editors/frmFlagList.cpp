@@ -96,7 +96,10 @@ void frmFlagList::PopulateFlagValueCombo() {
 void frmFlagList::PopulateAvailableFlags() {
   lstFlags.Clear();
   for (const TableItem& flag : *GetTable(kFlagTable)) {
-    if (flagRefs_->Find(flag.ID) == nullptr) lstFlags.AddRow(flag.Name, flag.ID);
+    // One that was redirected to another row stands under the key of the row that it had.
+    const bool listed =
+        flagRefs_->Find(flag.ID) != nullptr || IsFlagReferenced(*flagRefs_, flag.ID);
+    if (!listed) lstFlags.AddRow(flag.Name, flag.ID);
   }
   RefreshFlagOK();
 }

@@ -188,11 +188,9 @@ bool frmProperties::IsRadiusFit() {
     return true;
   } catch (const RuntimeError& error) {
     // A number that the file cannot hold is left to the user to correct.
-    messages_.Show({"", "Error " + std::to_string(error.Number()) + ": " + error.Description(),
-                    MessageBox::Icon::None, MessageBox::Buttons::Ok});
+    messages_.Show(BoxOf(error));
     SetTab(kInvokeTab);
-    txtInvokeRadius.setFocus();
-    txtInvokeRadius.selectAll();
+    FocusWholeText(txtInvokeRadius);
     return false;
   }
 }

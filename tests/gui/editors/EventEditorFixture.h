@@ -79,7 +79,10 @@ class EventEditorTest : public WindowTest {
   }
   [[nodiscard]] std::vector<std::int32_t> KeysInOrder(std::int32_t con = 0);
   [[nodiscard]] std::int32_t SelectedRow() { return program_.shell().lstEvents().ListIndex(); }
-  [[nodiscard]] const MessageBox& LastBox() { return program_.messages.shown.back(); }
+  /// The box that was shown last; the test fails if there was none.
+  [[nodiscard]] const MessageBox& LastBox() {
+    return program_.messages.shown.at(program_.messages.shown.size() - 1);
+  }
   /// Saves the file by the menu and opens it again.
   void SaveAndReload();
 

@@ -10,6 +10,7 @@ namespace parlate {
 namespace {
 
 using testing::ElementsAre;
+using testing::EndsWith;
 using testing::IsEmpty;
 using testing::UnorderedElementsAre;
 using namespace testing_support;
@@ -160,6 +161,33 @@ TEST_F(FrmEventChoice, DeleteAsksAndYesTakesTheChoiceFromTheEventAtOnce) {
   EXPECT_THAT(TextsInOrder(), ElementsAre("A", "C"));
 }
 
+TEST_F(FrmEventChoice, AnEventKeepsItsLastChoiceUntilAnotherTakesItsPlace) {
+  AddThree();
+  for (int i = 0; i < 3; ++i) {
+    ClickRowOf("lstChoices", 0);
+    program_.messages.Expect(Answer::Yes);
+    Click("cmdChoiceDelete");
+  }
+  EXPECT_THAT(RowsOf("lstChoices"), IsEmpty());
+  EXPECT_FALSE(IsEnabled("cmdUpdate"));
+  EXPECT_THAT(TextsInOrder(), ElementsAre("C"));
+  AddChoice("D");
+  EXPECT_THAT(RowsOf("lstChoices"), ElementsAre("D;;"));
+  EXPECT_THAT(TextsInOrder(), ElementsAre("D"));
+}
+
+TEST_F(FrmEventChoice, AnEventLeftWithoutChoicesCanStillBeListedOnOneLine) {
+  AddThree();
+  for (int i = 0; i < 3; ++i) {
+    ClickRowOf("lstChoices", 0);
+    program_.messages.Expect(Answer::Yes);
+    Click("cmdChoiceDelete");
+  }
+  Click("cmdClose");
+  program_.Choose("mnuViewExpandList");
+  EXPECT_THAT(program_.shell().lstEvents().Row(5).text, EndsWith("C"));
+}
+
 TEST_F(FrmEventChoice, ANumberIsNeverGivenOutAgain) {
   AddThree();
   ClickRowOf("lstChoices", 2);
@@ -228,7 +256,7 @@ TEST_F(FrmEventChoice, DeleteButtonKeepsTheFocusWhileThereIsAChoice) {
   }
   program_.messages.Expect(Answer::Yes);
   Press(Qt::Key_Space);
-  EXPECT_THAT(TextsInOrder(), IsEmpty());
+  EXPECT_THAT(RowsOf("lstChoices"), IsEmpty());
   EXPECT_TRUE(List("lstChoices").hasFocus());
 }
 

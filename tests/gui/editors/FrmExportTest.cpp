@@ -4,16 +4,16 @@
 #include <memory>
 #include <vector>
 
+#include "editors/ShownForm.h"
 #include "editors/frmExport.h"
 #include "editors/frmImport.h"
 #include "platform/FormKeys.h"
-#include "platform/Modal.h"
 #include "support/ScriptedPrompts.h"
 
 namespace parlate {
 namespace {
 
-using testing_support::ScriptedFileDialogs;
+using namespace testing_support;
 
 struct Exported {
   std::string fileName;
@@ -22,34 +22,19 @@ struct Exported {
   bool formHidden;
 };
 
-class FrmExportTest : public ::testing::Test {
+class FrmExportTest : public ShownForm<frmExport> {
  protected:
-  frmExport& Form() {
-    if (form_) return *form_;
+  std::unique_ptr<frmExport> MakeForm() override {
     const auto action = [this](const std::string& name, std::int32_t mode, Boolean comments) {
       exported_.push_back({name, mode, comments, form_->isHidden()});
     };
-    form_ = std::make_unique<frmExport>(defaults_, fileDialogs_, action);
-    form_->show();
-    form_->activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(form_.get()));
-    return *form_;
-  }
-  template <class Control>
-  Control& The(const char* name) {
-    return ControlNamed<Control>(Form(), name);
+    return std::make_unique<frmExport>(defaults_, fileDialogs_, action);
   }
   QLineEdit& Name() { return The<QLineEdit>("txtFilename"); }
-  void Click(const char* name) {
-    auto& button = The<QAbstractButton>(name);
-    QTest::mouseClick(&button, Qt::LeftButton, {}, QPoint(8, button.height() / 2));
-  }
-  bool IsEnabled(const char* name) { return The<QWidget>(name).isEnabled(); }
 
   ConversationDefaults defaults_;
   ScriptedFileDialogs fileDialogs_;
   std::vector<Exported> exported_;
-  std::unique_ptr<frmExport> form_;
 };
 
 TEST_F(FrmExportTest, EveryCaptionAndDefaultIsTheRightOne) {
@@ -173,30 +158,19 @@ TEST_F(FrmExportTest, ACancelledBrowseChangesNothing) {
   EXPECT_EQ(defaults_.LastExportPath, "/texts/");
 }
 
-class FrmImportTest : public ::testing::Test {
+class FrmImportTest : public ShownForm<frmImport> {
  protected:
-  frmImport& Form() {
-    if (form_) return *form_;
-    form_ = std::make_unique<frmImport>(defaults_, fileDialogs_, [this](const std::string& name) {
+  std::unique_ptr<frmImport> MakeForm() override {
+    return std::make_unique<frmImport>(defaults_, fileDialogs_, [this](const std::string& name) {
       EXPECT_TRUE(form_->isHidden());
       imported_.push_back(name);
     });
-    form_->show();
-    form_->activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(form_.get()));
-    return *form_;
-  }
-  template <class Control>
-  Control& The(const char* name) {
-    return ControlNamed<Control>(Form(), name);
   }
   QLineEdit& Name() { return The<QLineEdit>("txtFilename"); }
-  void Click(const char* name) { QTest::mouseClick(&The<QPushButton>(name), Qt::LeftButton); }
 
   ConversationDefaults defaults_;
   ScriptedFileDialogs fileDialogs_;
   std::vector<std::string> imported_;
-  std::unique_ptr<frmImport> form_;
 };
 
 TEST_F(FrmImportTest, EveryCaptionIsTheRightOne) {

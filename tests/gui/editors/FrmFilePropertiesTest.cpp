@@ -5,9 +5,9 @@
 #include <QTabBar>
 #include <memory>
 
+#include "editors/ShownForm.h"
 #include "editors/frmFileProperties.h"
 #include "platform/FormKeys.h"
-#include "platform/Modal.h"
 #include "support/FakeControls.h"
 #include "support/TestWorkspace.h"
 
@@ -19,7 +19,7 @@ using namespace testing_support;
 
 enum Tab { kMissions, kMisc, kStats, kInfo };
 
-class FrmFilePropertiesTest : public ::testing::Test {
+class FrmFilePropertiesTest : public ShownForm<frmFileProperties> {
  protected:
   FrmFilePropertiesTest() {
     BuildMissionTable();
@@ -60,30 +60,17 @@ class FrmFilePropertiesTest : public ::testing::Test {
     con.events.Add(event->key, event);
   }
 
-  frmFileProperties& Form() {
-    if (form_) return *form_;
-    form_ = std::make_unique<frmFileProperties>(conFile_);
-    form_->show();
-    form_->activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(form_.get()));
-    return *form_;
+  std::unique_ptr<frmFileProperties> MakeForm() override {
+    return std::make_unique<frmFileProperties>(conFile_);
   }
 
-  template <class Control>
-  Control& The(const char* name) {
-    return ControlNamed<Control>(Form(), name);
-  }
   QtListBox& Chosen() { return The<QtListBox>("lstMissions"); }
   QtListBox& Available() { return The<QtListBox>("lstMissionsAvailable"); }
-  QString Label(const char* name) { return The<QLabel>(name).text(); }
-  QString Caption(const char* name) { return The<QPushButton>(name).text(); }
-  bool IsEnabled(const char* name) { return The<QWidget>(name).isEnabled(); }
   void GoTo(Tab tab) {
     auto& tabs = The<QTabWidget>("tabProperties");
     QTest::mouseClick(tabs.tabBar(), Qt::LeftButton, {}, tabs.tabBar()->tabRect(tab).center());
     EXPECT_EQ(tabs.currentIndex(), tab);
   }
-  void Click(const char* name) { QTest::mouseClick(&The<QPushButton>(name), Qt::LeftButton); }
   static void ClickRow(QtListBox& list, int row, Qt::KeyboardModifiers modifiers = {}) {
     list.scrollToItem(list.item(row));
     QTest::mouseClick(list.viewport(), Qt::LeftButton, modifiers,
@@ -110,7 +97,6 @@ class FrmFilePropertiesTest : public ::testing::Test {
 
   TestWorkspace space_;
   ConversationFile conFile_;
-  std::unique_ptr<frmFileProperties> form_;
 };
 
 TEST_F(FrmFilePropertiesTest, EveryCaptionIsTheRightOne) {

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "editors/EditorFixture.h"
+#include "editors/ShownForm.h"
 #include "editors/frmFlagList.h"
 #include "support/TestWorkspace.h"
 
@@ -12,21 +13,17 @@ using namespace testing_support;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class FrmFlagListTest : public ::testing::Test {
+class FrmFlagListTest : public ShownForm<frmFlagList> {
  protected:
   FrmFlagListTest() {
     space_.workspace.tableEditor = &tables_;
     TestWorkspace::AddRows(kFlagTable, {{3, "Lamp"}, {2, "Door"}, {7, "anchor"}, {5, "Zip"}});
   }
 
-  frmFlagList& Form() {
-    if (form_) return *form_;
-    form_ = std::make_unique<frmFlagList>();
-    form_->SetFlags(flags_);
-    form_->show();
-    form_->activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(form_.get()));
-    return *form_;
+  std::unique_ptr<frmFlagList> MakeForm() override {
+    auto form = std::make_unique<frmFlagList>();
+    form->SetFlags(flags_);
+    return form;
   }
   QtListBox& List() { return ControlNamed<QtListBox>(Form(), "lstFlags"); }
   std::vector<std::string> Offered() {
@@ -60,7 +57,6 @@ class FrmFlagListTest : public ::testing::Test {
   TestWorkspace space_;
   ScriptedTableEditor tables_;
   FlagList flags_;
-  std::unique_ptr<frmFlagList> form_;
 };
 
 TEST_F(FrmFlagListTest, EveryCaptionIsTheRightOne) {
@@ -75,6 +71,12 @@ TEST_F(FrmFlagListTest, EveryCaptionIsTheRightOne) {
   for (const char* name : {"Label11", "cboFlagValues", "lblExpiration", "txtExpiration"}) {
     EXPECT_EQ(ControlNamed<QWidget>(Form(), name).parentWidget()->objectName(), "Frame1") << name;
   }
+}
+
+TEST_F(FrmFlagListTest, AFlagThatWasRedirectedIsNotOfferedASecondTime) {
+  Hold(3);
+  flags_.At(3).flagID = 7;
+  EXPECT_THAT(Offered(), ElementsAre("Door", "Zip"));
 }
 
 TEST_F(FrmFlagListTest, TrueAndNoExpirationAreTheDefaults) {
@@ -124,17 +126,17 @@ TEST_F(FrmFlagListTest, OfTwoFlagsOfOneNameTheOneThatTheListLacksIsOffered) {
 TEST_F(FrmFlagListTest, WithEveryFlagInTheListThePickerIsEmptyAndOkGrey) {
   for (const std::int32_t id : {2, 3, 5, 7}) Hold(id);
   EXPECT_THAT(Offered(), IsEmpty());
-  EXPECT_FALSE(IsEnabled(Form(), "cmdOK"));
+  EXPECT_FALSE(IsEnabled("cmdOK"));
 }
 
 TEST_F(FrmFlagListTest, OkNeedsASelectedFlag) {
-  EXPECT_FALSE(IsEnabled(Form(), "cmdOK"));
+  EXPECT_FALSE(IsEnabled("cmdOK"));
   EXPECT_EQ(Form().SelectedFlag(), -1);
   ClickRow(1);
-  EXPECT_TRUE(IsEnabled(Form(), "cmdOK"));
+  EXPECT_TRUE(IsEnabled("cmdOK"));
   EXPECT_EQ(Form().SelectedFlag(), 2);
   ClickRow(1, Qt::ControlModifier);
-  EXPECT_FALSE(IsEnabled(Form(), "cmdOK"));
+  EXPECT_FALSE(IsEnabled("cmdOK"));
 }
 
 TEST_F(FrmFlagListTest, TheKeysSelectToo) {
@@ -142,7 +144,7 @@ TEST_F(FrmFlagListTest, TheKeysSelectToo) {
   EXPECT_EQ(Form().SelectedFlag(), -1);
   QTest::keyClick(&List(), Qt::Key_End);
   EXPECT_EQ(Form().SelectedFlag(), 5);
-  EXPECT_TRUE(IsEnabled(Form(), "cmdOK"));
+  EXPECT_TRUE(IsEnabled("cmdOK"));
 }
 
 TEST_F(FrmFlagListTest, SeveralFlagsCanBeSelectedAndTakeOneValue) {
@@ -185,12 +187,12 @@ TEST_F(FrmFlagListTest, FlagsAddedInTheTableAppearAtOnceInSortedPlace) {
     AddTableItem(kFlagTable, "Candle");
     return -1;
   };
-  Click(Form(), "cmdEdit");
+  Click("cmdEdit");
   EXPECT_THAT(tables_.opened, ElementsAre(kFlagTable));
   EXPECT_THAT(Offered(), ElementsAre("anchor", "Candle", "Door", "Lamp", "Zip"));
   EXPECT_EQ(List().ItemData(1), 8);
   EXPECT_TRUE(List().selectedItems().isEmpty()) << "what was selected before is lost";
-  EXPECT_FALSE(IsEnabled(Form(), "cmdOK"));
+  EXPECT_FALSE(IsEnabled("cmdOK"));
 }
 
 TEST_F(FrmFlagListTest, OkIsZeroAndHides) {
@@ -202,7 +204,7 @@ TEST_F(FrmFlagListTest, OkIsZeroAndHides) {
 
 TEST_F(FrmFlagListTest, CancelEscapeAndClosingStayOne) {
   ClickRow(0);
-  Click(Form(), "cmdCancel");
+  Click("cmdCancel");
   EXPECT_EQ(form_->modalResult, 1);
   EXPECT_TRUE(form_->isHidden());
   form_.reset();
@@ -231,7 +233,7 @@ TEST_F(FrmFlagListTest, ADoubleClickTakesTheRowWithTheValueAndExpirationShown) {
 TEST_F(FrmFlagListTest, AnExpirationThatTheFileCannotHoldIsLeftToCorrect) {
   TextOf(Form(), "txtExpiration").setText("99999999999");
   ClickRow(0);
-  Click(Form(), "cmdOK");
+  Click("cmdOK");
   ExpectExpirationToCorrect();
   DoubleClickRow(1);
   ExpectExpirationToCorrect();
@@ -246,7 +248,7 @@ TEST_F(FrmFlagListTest, AnExpirationThatIsHiddenIsNotLookedAt) {
   TextOf(Form(), "txtExpiration").setText("99999999999");
   Form().ShowExpiration(false);
   ClickRow(0);
-  Click(Form(), "cmdOK");
+  Click("cmdOK");
   EXPECT_EQ(form_->modalResult, 0);
   EXPECT_TRUE(form_->isHidden());
 }

@@ -4,14 +4,14 @@
 #include <QLineEdit>
 #include <QTest>
 
+#include "editors/ShownForm.h"
 #include "editors/frmPrintCons.h"
-#include "platform/Modal.h"
 #include "support/ScriptedPrompts.h"
 
 namespace parlate {
 namespace {
 
-using testing_support::ScriptedMessageBoxes;
+using namespace testing_support;
 
 struct Option {
   const char* control;
@@ -31,43 +31,37 @@ constexpr Option kOptions[] = {
      &ConversationDefaults::bPrintSpeechOnly},
 };
 
-class FrmPrintCons : public testing::Test {
+class FrmPrintCons : public ShownForm<frmPrintCons> {
  protected:
+  std::unique_ptr<frmPrintCons> MakeForm() override {
+    return std::make_unique<frmPrintCons>(defaults_, messages_);
+  }
+  /// A form that is made anew.
   frmPrintCons& Show() {
-    form_ = std::make_unique<frmPrintCons>(defaults_, messages_);
-    form_->show();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(form_.get()));
-    return *form_;
-  }
-  template <class Control>
-  Control& Find(const char* name) {
-    return ControlNamed<Control>(*form_, name);
-  }
-  void Click(const char* name) {
-    QTest::mouseClick(&Find<QAbstractButton>(name), Qt::LeftButton, {}, QPoint(8, 8));
+    form_.reset();
+    return Form();
   }
   void TypeSize(const char* size) {
-    QLineEdit& edit = *Find<QtComboBox>("cboFontSizes").lineEdit();
+    QLineEdit& edit = *The<QtComboBox>("cboFontSizes").lineEdit();
     edit.selectAll();
     QTest::keyClicks(&edit, size);
   }
 
   ConversationDefaults defaults_;
   ScriptedMessageBoxes messages_;
-  std::unique_ptr<frmPrintCons> form_;
 };
 
 TEST_F(FrmPrintCons, EveryCaptionIsTheRightOne) {
   EXPECT_EQ(Show().windowTitle(), "Print Conversations");
-  EXPECT_EQ(Find<QGroupBox>("fraPrint").title(), "Print Conversations ");
-  EXPECT_EQ(Find<QRadioButton>("optPrintAll").text(), "All Conversations");
-  EXPECT_EQ(Find<QRadioButton>("optPrintSelected").text(), "Selected Conversation");
+  EXPECT_EQ(The<QGroupBox>("fraPrint").title(), "Print Conversations ");
+  EXPECT_EQ(The<QRadioButton>("optPrintAll").text(), "All Conversations");
+  EXPECT_EQ(The<QRadioButton>("optPrintSelected").text(), "Selected Conversation");
   for (const Option& option : kOptions) {
-    EXPECT_EQ(Find<QCheckBox>(option.control).text(), option.caption);
+    EXPECT_EQ(The<QCheckBox>(option.control).text(), option.caption);
   }
-  EXPECT_EQ(Find<QLabel>("Label1").text(), "Font Size:");
-  EXPECT_EQ(Find<QPushButton>("cmdOK").text(), "&OK");
-  EXPECT_EQ(Find<QPushButton>("cmdCancel").text(), "&Cancel");
+  EXPECT_EQ(The<QLabel>("Label1").text(), "Font Size:");
+  EXPECT_EQ(The<QPushButton>("cmdOK").text(), "&OK");
+  EXPECT_EQ(The<QPushButton>("cmdCancel").text(), "&Cancel");
 }
 
 TEST_F(FrmPrintCons, ShowsTheSettings) {
@@ -76,15 +70,15 @@ TEST_F(FrmPrintCons, ShowsTheSettings) {
     defaults_.PrintFontSize = on ? 13 : 9;
     Show();
     for (const Option& option : kOptions) {
-      EXPECT_EQ(Find<QCheckBox>(option.control).isChecked(), on) << option.control;
+      EXPECT_EQ(The<QCheckBox>(option.control).isChecked(), on) << option.control;
     }
-    EXPECT_EQ(Find<QtComboBox>("cboFontSizes").Text(), on ? "13" : "9");
+    EXPECT_EQ(The<QtComboBox>("cboFontSizes").Text(), on ? "13" : "9");
   }
 }
 
 TEST_F(FrmPrintCons, OffersNineSizes) {
   Show();
-  const QtComboBox& sizes = Find<QtComboBox>("cboFontSizes");
+  const QtComboBox& sizes = The<QtComboBox>("cboFontSizes");
   std::vector<std::string> offered;
   for (int i = 0; i < sizes.ListCount(); ++i) offered.push_back(sizes.List(i));
   EXPECT_EQ(offered,
@@ -93,21 +87,21 @@ TEST_F(FrmPrintCons, OffersNineSizes) {
 
 TEST_F(FrmPrintCons, TheListingIsForAllConversationsOnly) {
   Show();
-  EXPECT_TRUE(Find<QCheckBox>("chkListingOnly").isEnabled());
+  EXPECT_TRUE(The<QCheckBox>("chkListingOnly").isEnabled());
   Click("optPrintSelected");
-  EXPECT_FALSE(Find<QCheckBox>("chkListingOnly").isEnabled());
+  EXPECT_FALSE(The<QCheckBox>("chkListingOnly").isEnabled());
   Click("optPrintAll");
-  EXPECT_TRUE(Find<QCheckBox>("chkListingOnly").isEnabled());
+  EXPECT_TRUE(The<QCheckBox>("chkListingOnly").isEnabled());
 }
 
 TEST_F(FrmPrintCons, OffersTheSelectedConversationOnlyIfThereIsOne) {
   Show().SetChoice(false, true);
-  EXPECT_FALSE(Find<QRadioButton>("optPrintSelected").isEnabled());
-  EXPECT_TRUE(Find<QRadioButton>("optPrintAll").isChecked());
+  EXPECT_FALSE(The<QRadioButton>("optPrintSelected").isEnabled());
+  EXPECT_TRUE(The<QRadioButton>("optPrintAll").isChecked());
   form_->SetChoice(true, false);
-  EXPECT_TRUE(Find<QRadioButton>("optPrintSelected").isEnabled());
-  EXPECT_TRUE(Find<QRadioButton>("optPrintSelected").isChecked());
-  EXPECT_FALSE(Find<QCheckBox>("chkListingOnly").isEnabled());
+  EXPECT_TRUE(The<QRadioButton>("optPrintSelected").isEnabled());
+  EXPECT_TRUE(The<QRadioButton>("optPrintSelected").isChecked());
+  EXPECT_FALSE(The<QCheckBox>("chkListingOnly").isEnabled());
 }
 
 TEST_F(FrmPrintCons, OkStoresEveryOption) {
@@ -138,10 +132,10 @@ TEST_F(FrmPrintCons, RefusesSizesBelowFiveAndAboveTwentyFour) {
   for (const char* size : {"4", "25", "", "abc", "-8", "99999999999"}) {
     messages_.Expect(Answer::Ok);
     TypeSize(size);
-    if (*size == '\0') QTest::keyClick(Find<QtComboBox>("cboFontSizes").lineEdit(), Qt::Key_Delete);
+    if (*size == '\0') QTest::keyClick(The<QtComboBox>("cboFontSizes").lineEdit(), Qt::Key_Delete);
     Click("cmdOK");
     EXPECT_TRUE(form_->isVisible()) << size;
-    EXPECT_TRUE(Find<QtComboBox>("cboFontSizes").hasFocus()) << size;
+    EXPECT_TRUE(The<QtComboBox>("cboFontSizes").hasFocus()) << size;
     EXPECT_EQ(messages_.shown.back().title, "Invalid Font Size!");
     EXPECT_EQ(messages_.shown.back().text, "Font size must be between 5 and 24");
     EXPECT_EQ(messages_.shown.back().icon, MessageBox::Icon::Critical);

@@ -3,14 +3,14 @@
 #include <QAccessible>
 #include <memory>
 
+#include "editors/ShownForm.h"
 #include "editors/frmSettings.h"
-#include "platform/Modal.h"
 #include "support/ScriptedPrompts.h"
 
 namespace parlate {
 namespace {
 
-using testing_support::ScriptedFileDialogs;
+using namespace testing_support;
 
 class RecordingHost final : public SettingsHost {
  public:
@@ -21,30 +21,17 @@ class RecordingHost final : public SettingsHost {
   int eventsListUpdates = 0;
 };
 
-class FrmSettingsTest : public ::testing::Test {
+class FrmSettingsTest : public ShownForm<frmSettings> {
  protected:
-  frmSettings& Form() {
-    if (form_) return *form_;
-    form_ = std::make_unique<frmSettings>(defaults_, fileDialogs_, host_);
-    form_->show();
-    form_->activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(form_.get()));
-    return *form_;
-  }
-
-  template <class Control>
-  Control& The(const char* name) {
-    return ControlNamed<Control>(Form(), name);
+  std::unique_ptr<frmSettings> MakeForm() override {
+    return std::make_unique<frmSettings>(defaults_, fileDialogs_, host_);
   }
   QLineEdit& Text(const char* name) { return The<QLineEdit>(name); }
   QCheckBox& Box(const char* name) { return The<QCheckBox>(name); }
-  void Click(const char* name) { QTest::mouseClick(&The<QPushButton>(name), Qt::LeftButton); }
-  bool IsEnabled(const char* name) { return The<QWidget>(name).isEnabled(); }
 
   ConversationDefaults defaults_;
   ScriptedFileDialogs fileDialogs_;
   RecordingHost host_;
-  std::unique_ptr<frmSettings> form_;
 };
 
 TEST_F(FrmSettingsTest, EveryCaptionIsTheRightOne) {

@@ -8,9 +8,9 @@
 #include <string>
 #include <vector>
 
+#include "editors/ShownForm.h"
 #include "editors/frmProperties.h"
 #include "platform/FormKeys.h"
-#include "platform/Modal.h"
 #include "support/ScriptedTableEditor.h"
 #include "support/TestWorkspace.h"
 
@@ -19,7 +19,7 @@ namespace parlate::testing_support {
 enum Tab { kGeneral, kFlags, kInvoke, kOptions, kInfo };
 
 /// The properties of "greeting", which belongs to Zoe, beside "other".
-class PropertiesTest : public ::testing::Test {
+class PropertiesTest : public ShownForm<frmProperties> {
  protected:
   PropertiesTest() {
     space_.AddRows(kActorTable, {{1, "Zoe"}, {0, "Alex"}});
@@ -50,29 +50,17 @@ class PropertiesTest : public ::testing::Test {
     con_->flagRefs.Add(flagID, flag);
   }
 
-  frmProperties& Form() {
-    if (form_) return *form_;
-    form_ = std::make_unique<frmProperties>(conFile_, space_.messages);
-    form_->SetCon(*con_);
-    form_->SetTab(firstTab_);
-    form_->show();
-    form_->activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(form_.get()));
-    return *form_;
+  std::unique_ptr<frmProperties> MakeForm() override {
+    auto form = std::make_unique<frmProperties>(conFile_, space_.messages);
+    form->SetCon(*con_);
+    form->SetTab(firstTab_);
+    return form;
   }
 
-  template <class Control>
-  Control& The(const char* name) {
-    return ControlNamed<Control>(Form(), name);
-  }
   QLineEdit& Name() { return The<QLineEdit>("txtName"); }
   QtComboBox& Owner() { return The<QtComboBox>("cboNPC"); }
   QCheckBox& Box(const char* name) { return The<QCheckBox>(name); }
-  QString Caption(const char* name) { return The<QAbstractButton>(name).text(); }
-  QString Label(const char* name) { return The<QLabel>(name).text(); }
-  bool IsEnabled(const char* name) { return The<QWidget>(name).isEnabled(); }
   void GoTo(Tab tab) { The<QTabWidget>("tabProperties").setCurrentIndex(tab); }
-  void Click(const char* name) { QTest::mouseClick(&The<QPushButton>(name), Qt::LeftButton); }
   void Tick(const char* name) { QTest::keyClick(&Box(name), Qt::Key_Space); }
   /// Types over what stands in a field.
   void Type(QWidget& field, const QString& text) {
@@ -115,7 +103,6 @@ class PropertiesTest : public ::testing::Test {
   ScriptedTableEditor tables_;
   std::shared_ptr<Conversation> con_;
   Tab firstTab_ = kGeneral;
-  std::unique_ptr<frmProperties> form_;
 };
 
 }  // namespace parlate::testing_support

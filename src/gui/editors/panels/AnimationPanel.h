@@ -9,6 +9,7 @@
 
 #include "editors/TableCombo.h"
 #include "editors/panels/EventPanel.h"
+#include "model/TextNumbers.h"
 
 namespace parlate {
 
@@ -24,6 +25,7 @@ class AnimationPanel final : public EventPanel {
   void Ready() override;
   void LoadEvent(EventItem& event) override;
   [[nodiscard]] bool IsComplete() const override;
+  [[nodiscard]] NumberField Number() override { return {&txtAnimLength, NumericValue}; }
   void UpdateEvent(EventItem& event) override;
 
  private:

@@ -109,6 +109,7 @@ void ChoicePanel::AddChoiceToEvent() {
   const auto choice = std::make_shared<ChoiceItem>();
   frmChoiceEdit dialog(Host(), BuildAudioPath, window());
   if (!dialog.AddChoice(choice, window(), Host().CurrentCon())) return;
+  if (rows_.ListCount() == 0) currentChoiceEvent_->Choices.Clear();
   choice->ID = currentChoiceEvent_->nextID();
   currentChoiceEvent_->Choices.Add(choice->ID, choice);
   PopulateChoices();
@@ -131,7 +132,9 @@ void ChoicePanel::DeleteSelectedChoice() {
       Host().Doors().messages.Show({"Delete?", "Are you sure you wish to Delete this Choice?",
                                     MessageBox::Icon::Question, MessageBox::Buttons::YesNo});
   if (answer != Answer::Yes) return;
-  currentChoiceEvent_->Choices.Remove(SelectedID());
+  // The last one leaves the event when another takes its place: an event must not be left without
+  // any, and with none in the list it cannot be stored.
+  if (rows_.ListCount() > 1) currentChoiceEvent_->Choices.Remove(SelectedID());
   rows_.RemoveSelectedItem();
   RefreshChoiceButtons();
 }

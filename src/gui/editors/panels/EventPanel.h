@@ -1,9 +1,11 @@
 #pragma once
 
 #include <QGroupBox>
+#include <QLineEdit>
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "editors/EditorDoors.h"
 #include "general/RuntimeError.h"
@@ -40,6 +42,13 @@ class PanelHost {
   virtual void ClearTransferCount() {}
 };
 
+/// A field of a panel whose text must be a number.
+struct NumberField {
+  QLineEdit* field = nullptr;
+  /// What makes the number of the text; RuntimeError 6 or 13 when it is none that can be stored.
+  std::int32_t (*read)(std::string_view text) = nullptr;
+};
+
 /// One panel of the event editor: the controls of one event type. The editor calls the steps in
 /// the order of this class; `Ready` may run twice in a row.
 class EventPanel : public QGroupBox {
@@ -63,6 +72,8 @@ class EventPanel : public QGroupBox {
   virtual void LoadEvent(EventItem& event) = 0;
   /// Whether the required fields are there, so that the event can be stored.
   [[nodiscard]] virtual bool IsComplete() const = 0;
+  /// The field that is tested before the fields are stored, if the panel has one.
+  [[nodiscard]] virtual NumberField Number() { return {}; }
   /// Stores the fields; an event without an object is given one.
   virtual void UpdateEvent(EventItem& event) = 0;
   /// The Insert and the Delete key, pressed anywhere in the editor.

@@ -6,6 +6,7 @@
 #include <QRadioButton>
 
 #include "editors/panels/EventPanel.h"
+#include "model/TextNumbers.h"
 #include "platform/QtComboBox.h"
 
 namespace parlate {
@@ -24,6 +25,7 @@ class PersonaPanel final : public EventPanel {
   void Ready() override;
   void LoadEvent(EventItem& event) override;
   [[nodiscard]] bool IsComplete() const override;
+  [[nodiscard]] NumberField Number() override { return {&txtPersonaValue, NumberOfText}; }
   void UpdateEvent(EventItem& event) override;
 
  private:

@@ -4,6 +4,7 @@
 #include <QLineEdit>
 
 #include "editors/panels/EventPanel.h"
+#include "model/TextNumbers.h"
 
 namespace parlate {
 
@@ -18,6 +19,7 @@ class SkillPointsPanel final : public EventPanel {
   void Ready() override;
   void LoadEvent(EventItem& event) override;
   [[nodiscard]] bool IsComplete() const override;
+  [[nodiscard]] NumberField Number() override { return {&txtSkillPointsToAdd, NumberOfText}; }
   void UpdateEvent(EventItem& event) override;
 
  private:

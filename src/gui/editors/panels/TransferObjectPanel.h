@@ -6,6 +6,7 @@
 
 #include "editors/TableCombo.h"
 #include "editors/panels/EventPanel.h"
+#include "model/TextNumbers.h"
 
 namespace parlate {
 
@@ -25,6 +26,7 @@ class TransferObjectPanel final : public EventPanel {
   void Ready() override;
   void LoadEvent(EventItem& event) override;
   [[nodiscard]] bool IsComplete() const override;
+  [[nodiscard]] NumberField Number() override { return {&txtTransferCount, NumberOfText}; }
   void UpdateEvent(EventItem& event) override;
 
   void ClearTransferCount() { txtTransferCount.clear(); }
