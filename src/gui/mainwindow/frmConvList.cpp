@@ -112,7 +112,9 @@ void frmConvList::PlaceWindow() {
 
 void frmConvList::CommandStatesChanged() {
   const CommandPredicates predicates = shell_.Predicates();
-  setWindowTitle(QFile::decodeName(QByteArray::fromStdString(shell_.Caption())));
+  QString title = QFile::decodeName(QByteArray::fromStdString(shell_.Caption()));
+  // The toolkit takes one of these for the place of a mark, and shows two as one.
+  setWindowTitle(title.replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
   statusText_.setText(QString::fromStdString(shell_.StatusText()));
   const bool open = predicates.fileOpen;
   const bool cameOrWent = open != fileWasOpen_;

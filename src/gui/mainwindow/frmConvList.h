@@ -133,6 +133,7 @@ class frmConvList : public QMainWindow,
   void ToggleShowAudioFiles();
   void FocusFindBox();
   void ShowFind();
+  void MoveFindOffTheHit();
   void FindQuickly();
   bool FindBoxEvent(QEvent* event);
   /// The next search starts anew, if the last one was that of the quick box.

@@ -7,6 +7,7 @@
 #include <QMessageBox>
 
 #include "mainwindow/frmConvList.h"
+#include "platform/ScreenPlacement.h"
 
 namespace parlate {
 
@@ -67,9 +68,19 @@ void frmConvList::FocusFindBox() {
 }
 
 void frmConvList::ShowFind() {
-  if (!find_) find_ = std::make_unique<frmFind>(shell_, this);
+  if (!find_) {
+    find_ = std::make_unique<frmFind>(shell_, this);
+    connect(find_.get(), &frmFind::Hit, this, &frmConvList::MoveFindOffTheHit);
+  }
   LeaveQuickSearch();
   find_->exec();
+}
+
+void frmConvList::MoveFindOffTheHit() {
+  const QWidget& area = *lstEvents_.viewport();
+  const QRect row = lstEvents_.RowRect(lstEvents_.Rows().ListIndex()) & area.rect();
+  const QRect onScreen(area.mapToGlobal(row.topLeft()), row.size());
+  find_->move(ClearOf(find_->frameGeometry(), onScreen).topLeft());
 }
 
 void frmConvList::FindQuickly() {

@@ -103,6 +103,7 @@ void frmFind::Find() {
                                      optConAll.isChecked(), cboEvents.ListIndex());
   if (found) {
     SetFindCaption(QStringLiteral("Find Next"));
+    emit Hit();
   } else {
     Restart();
   }

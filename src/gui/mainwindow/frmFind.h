@@ -20,6 +20,10 @@ class frmFind : public QDialog {
  public:
   explicit frmFind(Shell& shell, QWidget* parent = nullptr);
 
+ signals:
+  /// The row of the hit is selected.
+  void Hit();
+
  protected:
   void showEvent(QShowEvent* event) override;
 

@@ -16,6 +16,19 @@ QRect OnScreen(QRect wanted) {
   return wanted;
 }
 
+QRect ClearOf(QRect window, const QRect& place) {
+  if (!window.intersects(place)) return window;
+  const QScreen* screen = QGuiApplication::screenAt(place.center());
+  if (screen == nullptr) return window;
+  const QRect room = screen->availableGeometry();
+  if (place.bottom() + window.height() <= room.bottom()) {
+    window.moveTop(place.bottom() + 1);
+  } else if (place.top() - window.height() >= room.top()) {
+    window.moveBottom(place.top() - 1);
+  }
+  return window;
+}
+
 QRect CentredOnScreen(const QSize& size) {
   QRect place(QPoint(0, 0), size);
   if (const QScreen* screen = QGuiApplication::primaryScreen()) {

@@ -133,10 +133,24 @@ void ConversationTreeView::contextMenuEvent(QContextMenuEvent* event) {
 
 void ConversationTreeView::keyPressEvent(QKeyEvent* event) {
   if (!event->isAutoRepeat()) pressedKeys_.insert(event->key());
+  // The base class would put the name of the node on the system's clipboard.
+  if (event->matches(QKeySequence::Copy)) {
+    event->ignore();
+    return;
+  }
   // With nothing selected the base class would step off the first node and never select it.
   const bool begins = model_.Tree().SelectedItem() == nullptr && SelectsNodes(*event);
   if (begins && TakeCurrentNode() && !GoesToTheEnd(*event)) return;
   QTreeView::keyPressEvent(event);
+}
+
+QItemSelectionModel::SelectionFlags ConversationTreeView::selectionCommand(
+    const QModelIndex& index, const QEvent* event) const {
+  // Commands work on the selected node, which must not cease to look it.
+  const auto flags = QTreeView::selectionCommand(index, event);
+  const bool takesAway =
+      (flags & (QItemSelectionModel::Toggle | QItemSelectionModel::Deselect)) != 0;
+  return takesAway ? QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows : flags;
 }
 
 bool ConversationTreeView::TakeCurrentNode() {

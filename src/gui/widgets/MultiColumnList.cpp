@@ -29,7 +29,7 @@ std::string_view ColumnPart(std::string_view text, int column) {
 MultiColumnList::MultiColumnList(ListRows& rows, QWidget* parent)
     : QAbstractScrollArea(parent),
       rows_(rows),
-      header_(Qt::Horizontal, this),
+      header_(this),
       breaker_([this](std::string_view word) {
         return QFontMetricsF(font(), viewport()).horizontalAdvance(ToSingleLine(word));
       }) {
@@ -46,6 +46,7 @@ MultiColumnList::MultiColumnList(ListRows& rows, QWidget* parent)
     ScheduleLayout();
     emit columnWidthChanged();
   });
+  connect(&header_, &QHeaderView::sectionHandleDoubleClicked, this, &MultiColumnList::FitColumn);
   layoutTimer_.setSingleShot(true);
   connect(&layoutTimer_, &QTimer::timeout, this, &MultiColumnList::UpdateLayout);
   rows_.SetListener(this);

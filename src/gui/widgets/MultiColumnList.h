@@ -3,7 +3,6 @@
 #include <QAbstractScrollArea>
 #include <QAccessible>
 #include <QColor>
-#include <QHeaderView>
 #include <QStandardItemModel>
 #include <QTimer>
 #include <cstdint>
@@ -13,6 +12,7 @@
 
 #include "shell/LineBreaker.h"
 #include "shell/ListRows.h"
+#include "widgets/ListHeads.h"
 #include "widgets/RowTops.h"
 
 class QPainter;
@@ -44,6 +44,8 @@ class MultiColumnList : public QAbstractScrollArea, private ListRowsListener {
   /// Width of a column in pixels, 0 or more.
   [[nodiscard]] int ColumnWidth(int column) const { return header_.sectionSize(column); }
   void SetColumnWidth(int column, int width);
+  /// Makes a column as wide as its widest cell and its head need, up to half of the list.
+  void FitColumn(int column);
 
   /// Says in words what a row colour (24-bit blue-green-red) stands for, for those who do not see
   /// it. An empty text takes the meaning back.
@@ -143,6 +145,8 @@ class MultiColumnList : public QAbstractScrollArea, private ListRowsListener {
   [[nodiscard]] QPalette::ColorGroup ColorGroup() const;
   [[nodiscard]] int StripWidth() const;
   [[nodiscard]] int TextMargin() const;
+  /// What stands left of the text in a cell.
+  [[nodiscard]] int CellMargin(int column) const;
   [[nodiscard]] int SubTextIndent() const;
 
   // Input
@@ -153,6 +157,8 @@ class MultiColumnList : public QAbstractScrollArea, private ListRowsListener {
   [[nodiscard]] int RowOnePageDown(int from) const;
   [[nodiscard]] int RowOnePageUp(int from) const;
   void RequestContextMenuByKey();
+  /// Keys that move or fit the columns; false for all others.
+  bool ServeColumnKey(int key, Qt::KeyboardModifiers modifiers);
 
   // Accessibility
   void TellOfSelection();
@@ -163,7 +169,7 @@ class MultiColumnList : public QAbstractScrollArea, private ListRowsListener {
 
   ListRows& rows_;
   QStandardItemModel heads_;
-  QHeaderView header_;
+  ListHeads header_;
   QTimer layoutTimer_;
   LineBreaker breaker_;
   RowTops tops_;

@@ -10,6 +10,12 @@
 
 namespace parlate {
 
+namespace {
+
+constexpr int kSidewaysSteps = 8;  // presses of a key that move a list by its width
+
+}  // namespace
+
 void MultiColumnList::SelectByMouse(int row) {
   selectingByMouse_ = true;
   rows_.SetListIndex(row);
@@ -83,6 +89,7 @@ void MultiColumnList::keyPressEvent(QKeyEvent* event) {
     if (!isMenuKey || !servedBefore) RequestContextMenuByKey();
     return;
   }
+  if (ServeColumnKey(event->key(), modifiers)) return;
   // With a modifier the same keys are shortcuts of the form.
   const auto row = modifiers == Qt::NoModifier ? RowForKey(event->key()) : std::nullopt;
   if (!row) {
@@ -91,6 +98,23 @@ void MultiColumnList::keyPressEvent(QKeyEvent* event) {
   } else if (*row >= 0) {
     SelectByKey(*row);
   }
+}
+
+bool MultiColumnList::ServeColumnKey(int key, Qt::KeyboardModifiers modifiers) {
+  // On some keyboards the plus is on a key with Shift, on others not.
+  if (key == Qt::Key_Plus && (modifiers & ~Qt::ShiftModifier) == Qt::ControlModifier) {
+    if (header_.isHidden()) return false;
+    for (int column = 0; column < ColumnCount(); ++column) FitColumn(column);
+    return true;
+  }
+  const bool sideways = key == Qt::Key_Left || key == Qt::Key_Right;
+  if (!sideways || modifiers != Qt::NoModifier || horizontalScrollBar()->maximum() == 0) {
+    return false;
+  }
+  const int step = horizontalScrollBar()->pageStep() / kSidewaysSteps;
+  const int scrolled = horizontalScrollBar()->value();
+  horizontalScrollBar()->setValue(key == Qt::Key_Left ? scrolled - step : scrolled + step);
+  return true;
 }
 
 void MultiColumnList::keyReleaseEvent(QKeyEvent* event) {

@@ -146,6 +146,18 @@ int MultiColumnList::RowAt(QPoint position) {
   return row < tops_.Count() ? static_cast<int>(row) : -1;
 }
 
+void MultiColumnList::FitColumn(int column) {
+  const int most = viewport()->width() / 2;
+  const int margins = 2 * CellMargin(column);
+  int width = header_.isHidden() ? 0 : header_.sectionSizeHint(column);
+  for (int row = 0; row < Count() && width < most; ++row) {
+    // No character is narrower than a pixel: what is cut off here is beyond the limit anyway.
+    const QString text = CellText(row, column).left(most);
+    width = std::max(width, fontMetrics().horizontalAdvance(text) + margins);
+  }
+  SetColumnWidth(column, std::min(width, most));
+}
+
 void MultiColumnList::PlaceHeader() {
   const int height = header_.isHidden() ? 0 : header_.sizeHint().height();
   setViewportMargins(0, height, 0, 0);

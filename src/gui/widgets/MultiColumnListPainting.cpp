@@ -42,6 +42,10 @@ int MultiColumnList::StripWidth() const {
 
 int MultiColumnList::TextMargin() const { return StripWidth() + kTextPadding; }
 
+int MultiColumnList::CellMargin(int column) const {
+  return column == 0 ? TextMargin() : kTextPadding;
+}
+
 int MultiColumnList::SubTextIndent() const {
   return TextMargin() + 2 * fontMetrics().averageCharWidth();
 }
@@ -109,8 +113,8 @@ void MultiColumnList::PaintRow(QPainter& painter, int index, const QRect& dirty)
 void MultiColumnList::PaintColumns(QPainter& painter, int index, const QRect& rect) {
   const QFontMetrics metrics = fontMetrics();
   for (int column = 0; column < ColumnCount(); ++column) {
-    const int margin = column == 0 ? TextMargin() : kTextPadding;
-    const QRect cell = CellRect(rect, column).adjusted(margin, kTopPadding, -kTextPadding, 0);
+    const QRect cell =
+        CellRect(rect, column).adjusted(CellMargin(column), kTopPadding, -kTextPadding, 0);
     if (cell.width() <= 0 || cell.right() < 0 || cell.left() >= viewport()->width()) continue;
     // No character is narrower than a pixel: what is cut off here could not show, however long.
     const QString text = CellText(index, column).left(cell.width() + 1);

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QHeaderView>
 #include <QImage>
 #include <QLineEdit>
 #include <QScreen>
@@ -236,6 +237,18 @@ TEST_F(MultiColumnListPaintingTest, TheFocusIsShownAroundTheListUntilARowHasIt) 
   EXPECT_EQ(CountPixels(bottomEdge, qRgb(0, 0, 255)), 0);
   const QRect rowEdge(0, list_.RowRect(1).top(), Area()->width(), 1);
   EXPECT_GT(CountPixels(rowEdge, qRgb(255, 255, 255)), Area()->width() / 4);
+}
+
+TEST_F(MultiColumnListPaintingTest, TheHeadGoesOnToTheEdgeWhereTheColumnsEndShort) {
+  Settle();
+  auto& heads = *list_.findChild<QHeaderView*>();
+  const int end = 3 * kColumnWidth;
+  ASSERT_GT(heads.width(), end + 10);
+  QImage picture(heads.size(), QImage::Format_RGB32);
+  heads.render(&picture);
+  for (int y = 0; y < heads.height(); ++y) {
+    EXPECT_EQ(picture.pixel(end + 5, y), picture.pixel(end - 10, y)) << y;
+  }
 }
 
 }  // namespace
