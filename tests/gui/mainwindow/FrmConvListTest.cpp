@@ -97,45 +97,6 @@ TEST_F(MainWindow, WithAFileShowsThePanesAndItsPath) {
   EXPECT_TRUE(program.Close());
 }
 
-TEST_F(MainWindow, KeepsTheStoredRectangleWhenItExitsMaximised) {
-  RunningProgram program;
-  program.settings.values["MainLeft"] = "1500";
-  program.settings.values["MainWidth"] = "9000";
-  ASSERT_TRUE(program.Start());
-  program.Window().showMaximized();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return program.Window().isMaximized(); }));
-  EXPECT_TRUE(program.Close());
-  EXPECT_EQ(program.settings.values["WindowState"], "2");
-  EXPECT_EQ(program.settings.values["MainLeft"], "1500");
-  EXPECT_EQ(program.settings.values["MainWidth"], "9000");
-}
-
-TEST_F(MainWindow, StartsNormalWhenItWasMinimisedAtTheEnd) {
-  RunningProgram program;
-  program.settings.values["WindowState"] = "1";
-  ASSERT_TRUE(program.Start());
-  EXPECT_FALSE(program.Window().isMinimized());
-}
-
-TEST_F(MainWindow, StoresItsRectangleInTwipsAndItsCheckMarksAtExit) {
-  RunningProgram program;
-  ASSERT_TRUE(program.Start());
-  program.Window().setGeometry(40, 60, 700, 400);
-  program.Choose("mnuViewStatusBar");
-  program.Choose("mnuViewShowAudioFiles");
-  program.Events().SetColumnWidth(1, 140);
-  EXPECT_TRUE(program.Close());
-  EXPECT_EQ(program.settings.values["MainLeft"], "600");
-  EXPECT_EQ(program.settings.values["MainTop"], "900");
-  EXPECT_EQ(program.settings.values["MainWidth"], "10500");
-  EXPECT_EQ(program.settings.values["MainHeight"], "6000");
-  EXPECT_EQ(program.settings.values["ToolBarEnabled"], "True");
-  EXPECT_EQ(program.settings.values["StatusBarEnabled"], "False");
-  EXPECT_EQ(program.settings.values["ShowAudioFiles"], "False");
-  EXPECT_EQ(program.settings.values["ActionColumnWidth"], "140");
-  EXPECT_EQ(program.settings.values["EventLeft"], "-1");
-}
-
 TEST_F(MainWindow, CannotBeMadeNarrowerThan3000Twips) {
   RunningProgram program;
   ASSERT_TRUE(program.Start());
@@ -208,6 +169,20 @@ TEST_F(MainWindow, TheViewTogglesAreOnAtFirstAndShowAtOnce) {
   program.Choose("mnuViewExpandList");
   EXPECT_EQ(speech().subText, "Hello\r\nthere");
   EXPECT_TRUE(program.workspace.defaults.ExpandListEnabled);
+}
+
+TEST_F(MainWindow, OpeningTheConversationMenuBringsTheCommandsUpToDate) {
+  const std::string path = PutSampleFile(28);
+  RunningProgram program;
+  ASSERT_TRUE(program.Start(path));
+  program.ClickNode("C0");
+  program.Choose("mnuConCopy");
+  ASSERT_FALSE(program.Enabled("mnuConPaste")) << "a copy alone updates nothing";
+  program.Press(Qt::Key_C, Qt::AltModifier);
+  QMenu& menu = *program.Window().Command("mnuCon")->menu();
+  ASSERT_TRUE(QTest::qWaitFor([&menu] { return menu.isVisible(); }));
+  EXPECT_TRUE(program.Enabled("mnuConPaste"));
+  menu.close();
 }
 
 TEST_F(MainWindow, ASecondClickOnARowDeselectsItAndTheNextSelectsItAgain) {

@@ -297,5 +297,22 @@ TEST_F(FindTest, WithoutANodeThereIsNothingToFind) {
   EXPECT_FALSE(Box().isEnabled());
 }
 
+TEST_F(FindTest, AHitThatTheDialogWouldCoverMovesItOffTheRow) {
+  InDialog([this](FindUser& user) {
+    QWidget& form = *user.Button().window();
+    const auto row = [this] {
+      const QRect rect = program_.Events().RowRect(program_.Events().Rows().ListIndex());
+      return QRect(program_.Events().viewport()->mapToGlobal(rect.topLeft()), rect.size());
+    };
+    user.Type("e");
+    form.move(program_.Events().viewport()->mapToGlobal(QPoint(20, 0)));
+    for (const int hit : {0, 1}) {
+      user.Find();
+      ExpectAt(0, hit);
+      EXPECT_FALSE(form.frameGeometry().intersects(row())) << hit;
+    }
+  });
+}
+
 }  // namespace
 }  // namespace parlate

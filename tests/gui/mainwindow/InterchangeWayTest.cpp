@@ -40,7 +40,6 @@ class InterchangeWay : public WindowTest {
     const std::string path = PutHarbour();
     RunningProgram program;
     EXPECT_TRUE(program.Start(path));
-    GoOnSaving();
     program.Choose("mnuFileSave");
     EXPECT_TRUE(program.Close());
     return ReadBytes(path);
@@ -53,11 +52,6 @@ class InterchangeWay : public WindowTest {
       QTest::mouseClick(dialog.findChild<QPushButton*>("cmdOK"), Qt::LeftButton);
     });
     program.Choose(command);
-  }
-  static void GoOnSaving() {
-    WhenFormShows("frmMissingLabels", [](QWidget& form) {
-      QTest::mouseClick(form.findChild<QPushButton*>("cmdYes"), Qt::LeftButton);
-    });
   }
 };
 
@@ -81,7 +75,6 @@ TEST_F(InterchangeWay, ExportedTextIsCorrectedImportedAndSaved) {
 
     Run(program, "mnuFileImport", "frmImport", textPath);
     EXPECT_EQ(program.Events().Rows().Row(0).subText, "Good evening") << "the window shows it";
-    GoOnSaving();
     program.Choose("mnuFileSave");
     EXPECT_TRUE(program.Close());
   }
@@ -108,7 +101,6 @@ TEST_F(InterchangeWay, GenerateNamesTheFilesAndTheRowsFollow) {
   EXPECT_EQ(program.Events().Rows().Row(2).color, 0xFFFFC0) << "no audio";
   program.Choose("mnuFileGenerateAudio");
   EXPECT_EQ(program.Events().Rows().Row(2).color, -1);
-  GoOnSaving();
   program.Choose("mnuFileSave");
   EXPECT_TRUE(program.Close());
   RunningProgram again;

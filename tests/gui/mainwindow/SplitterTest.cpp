@@ -31,6 +31,24 @@ class Splitter : public WindowTest {
   int left_ = 0;
 };
 
+TEST_F(Splitter, APressShowsTheBarOverTheStripALittleToItsLeft) {
+  Press();
+  EXPECT_TRUE(Bar().isVisible());
+  EXPECT_EQ(Bar().x(), 199);  // 3000 less 20 twips
+  EXPECT_EQ(Bar().y(), Strip().y());
+  EXPECT_EQ(Bar().size(), Strip().size());
+  EXPECT_EQ(Bar().palette().color(QPalette::Window), QColor(0x80, 0x80, 0x80));
+  ReleaseAt(200);
+  EXPECT_EQ(Strip().x(), 199) << "the strip goes where the bar stood";
+}
+
+TEST_F(Splitter, APressOfTheOtherButtonTakesHoldOfNothing) {
+  QTest::mousePress(&Strip(), Qt::RightButton, {}, {0, 10});
+  EXPECT_FALSE(Bar().isVisible());
+  QTest::mouseRelease(&Strip(), Qt::RightButton, {}, {0, 10});
+  EXPECT_EQ(Strip().x(), 200);
+}
+
 TEST_F(Splitter, DroppingItAt600LeavesItAt1500) {
   EXPECT_FALSE(Bar().isVisible());
   Press();

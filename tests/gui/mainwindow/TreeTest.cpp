@@ -121,6 +121,25 @@ TEST_F(Tree, TheTreesPopupIsForTheSelectedNodeNotTheOneUnderTheMouse) {
   popup.close();
 }
 
+TEST_F(Tree, AReleaseOfAnyButtonOnEmptySpaceBringsTheCommandsUpToDate) {
+  const std::string path = PutSampleFile(28);
+  for (const auto button : {Qt::LeftButton, Qt::MiddleButton, Qt::RightButton}) {
+    RunningProgram program;
+    ASSERT_TRUE(program.Start(path));
+    program.ClickNode("C0");
+    program.Choose("mnuConCopy");
+    QWidget& area = *program.Tree().viewport();
+    const QPoint empty = area.rect().bottomRight() - QPoint(5, 5);
+    ASSERT_FALSE(program.Tree().indexAt(empty).isValid());
+    QTest::mousePress(&area, button, {}, empty);
+    ASSERT_FALSE(program.Enabled("mnuConPaste")) << "a copy alone updates nothing";
+    QTest::mouseRelease(&area, button, {}, empty);
+    EXPECT_TRUE(program.Enabled("mnuConPaste")) << button;
+    program.Find<QMenu>("mnuConPopup").close();
+    EXPECT_TRUE(program.Close());
+  }
+}
+
 TEST_F(Tree, TheFlagPopupTurnsTheFlagAndMarksNothingAsChanged) {
   const std::string path = PutSampleFile(28);
   RunningProgram program;

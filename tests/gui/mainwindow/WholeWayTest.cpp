@@ -1,10 +1,13 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QPushButton>
+#include <algorithm>
 
 #include "general/Paths.h"
 #include "mainwindow/WindowFixture.h"
 #include "persistence/LockFile.h"
+#include "platform/Modal.h"
+#include "platform/QtListBox.h"
 #include "support/FileBytes.h"
 
 namespace parlate {
@@ -29,13 +32,18 @@ std::string ExpectedBytes(double savedAt) {
                   fields().I32(2).Str("Door").Bool(false).Bytes());
 }
 
-/// The file begins with the expected bytes; what an older, longer file left behind them is nothing.
-void ExpectSaved(const std::string& path) {
-  const std::string expected = ExpectedBytes(kSavedAt);
-  const std::string saved = ReadBytes(path);
-  std::size_t same = 0;
-  while (same < expected.size() && same < saved.size() && saved[same] == expected[same]) ++same;
-  EXPECT_EQ(same, expected.size()) << path << " differs at this offset";
+void ExpectBytes(const std::string& path, const std::string& expected) {
+  const std::string bytes = ReadBytes(path);
+  const auto differ =
+      std::mismatch(bytes.begin(), bytes.end(), expected.begin(), expected.end()).first;
+  EXPECT_TRUE(bytes == expected) << path << " has " << bytes.size() << " bytes of "
+                                 << expected.size() << " and differs at byte "
+                                 << differ - bytes.begin();
+}
+
+/// A save does not cut the file short: what a longer one had there stays behind the new end.
+std::string WrittenOver(const std::string& before, const std::string& image) {
+  return image + (before.size() > image.size() ? before.substr(image.size()) : "");
 }
 
 void TypeSettings(QWidget& form, const std::string& backupFolder) {
@@ -85,43 +93,72 @@ class WholeWay : public WindowTest {
     EXPECT_EQ(program.shell().tvCons().FindNode("F2,0")->Image(), "FlagFalse");
   }
 
-  void CheckLabels() {
-    WhenFormShows("frmMissingLabels", [](QWidget& form) {
-      QTest::mouseClick(form.findChild<QPushButton*>("cmdClose"), Qt::LeftButton);
+  void AddNoFlagTwice(RunningProgram& program) {
+    const WhenModal modal([](QWidget& form) {
+      EXPECT_EQ(form.objectName(), "frmFlagList");
+      EXPECT_EQ(ControlNamed<QtListBox>(form, "lstFlags").ListCount(), 0)
+          << "the conversation has both flags";
+      EXPECT_FALSE(ControlNamed<QPushButton>(form, "cmdOK").isEnabled());
+      QTest::mouseClick(&ControlNamed<QPushButton>(form, "cmdCancel"), Qt::LeftButton);
     });
+    program.Choose("mnuFlagPopupAdd");
+    EXPECT_EQ(program.shell().SelectedCon()->flagRefs.Count(), 2U);
+    EXPECT_EQ(program.shell().tvCons().FindNode("C0")->children.size(), 2U);
   }
 
-  static void GoOnSaving() {
-    WhenFormShows("frmMissingLabels", [](QWidget& form) {
-      QTest::mouseClick(form.findChild<QPushButton*>("cmdYes"), Qt::LeftButton);
+  /// The jump to a label that the other conversation lacks, and nothing else.
+  static void ExpectTheMissingLabel(QWidget& form, bool saving) {
+    EXPECT_EQ(form.objectName(), "frmMissingLabels");
+    const ListRows& rows = ControlNamed<MultiColumnList>(form, "lstLabels").Rows();
+    ASSERT_EQ(rows.ListCount(), 1U);
+    EXPECT_EQ(rows.Row(0).text, "Welcome_1;Start");
+    EXPECT_EQ(ControlNamed<QPushButton>(form, "cmdYes").isVisible(), saving);
+    EXPECT_EQ(ControlNamed<QPushButton>(form, "cmdClose").isVisible(), !saving);
+  }
+
+  static void CheckLabels(RunningProgram& program) {
+    const WhenModal modal([](QWidget& form) {
+      ExpectTheMissingLabel(form, false);
+      QTest::mouseClick(&ControlNamed<QPushButton>(form, "cmdClose"), Qt::LeftButton);
     });
+    program.Press(Qt::Key_L, Qt::ControlModifier);
+  }
+
+  static void SaveInSpiteOfTheLabel(const std::function<void()>& save) {
+    const WhenModal modal([](QWidget& form) {
+      ExpectTheMissingLabel(form, true);
+      QTest::mouseClick(&ControlNamed<QPushButton>(form, "cmdYes"), Qt::LeftButton);
+    });
+    save();
   }
 
   [[nodiscard]] std::string Backups() const { return folder.Path() + "backups/"; }
 };
 
-TEST_F(WholeWay, FromTheFirstStartToTheSavedBytesAndASecondCopyThatMeetsTheLock) {
-  const std::string path = PutSampleFile(17);
+TEST_F(WholeWay, FromTheFirstStartToTheSavedBytesAndOpenAgain) {
+  const std::string before = SampleFile(17) + std::string(3000, '\xAB');
+  const std::string image = ExpectedBytes(kSavedAt);
+  ASSERT_GT(before.size(), image.size());
+  const std::string path = folder.File("sample.con");
+  WriteBytes(path, before);
   {
     RunningProgram program("");
     FirstStart(program);
     OpenWithDialog(program, path);
     RenameInPlace(program);
     ToggleFlag(program);
+    AddNoFlagTwice(program);
+    CheckLabels(program);
+    ExpectBytes(path, before);
 
-    CheckLabels();
-    program.Press(Qt::Key_L, Qt::ControlModifier);
-
-    GoOnSaving();
-    program.Press(Qt::Key_S, Qt::ControlModifier);
-    ExpectSaved(path);
-    ExpectSaved(Backups() + "sample.con");
+    SaveInSpiteOfTheLabel([&] { program.Press(Qt::Key_S, Qt::ControlModifier); });
+    ExpectBytes(path, WrittenOver(before, image));
+    ExpectBytes(Backups() + "sample.con", image);
     EXPECT_FALSE(FileExists(Backups() + "sample.bak"));
 
     program.workspace.now = [] { return kSavedAt + 1; };
-    GoOnSaving();
-    program.Choose("tlbCon/Save");
-    ExpectSaved(Backups() + "sample.bak");
+    SaveInSpiteOfTheLabel([&] { program.Choose("tlbCon/Save"); });
+    ExpectBytes(Backups() + "sample.bak", image);
     EXPECT_EQ(program.workspace.defaults.LastFiles(0), path);
     EXPECT_EQ(program.workspace.defaults.GetLastFilesCount(), 1);
 
@@ -131,8 +168,13 @@ TEST_F(WholeWay, FromTheFirstStartToTheSavedBytesAndASecondCopyThatMeetsTheLock)
   RunningProgram again;
   ASSERT_TRUE(again.Start(path));
   EXPECT_EQ(again.shell().GetVersionNum(), 28);
-  EXPECT_NE(again.shell().tvCons().FindNode("C0"), nullptr);
+  ASSERT_NE(again.shell().tvCons().FindNode("C0"), nullptr);
   EXPECT_EQ(again.shell().tvCons().FindNode("C0")->text, "Welcome_1");
+  ASSERT_NE(again.shell().tvCons().FindNode("F2,0"), nullptr);
+  EXPECT_EQ(again.shell().tvCons().FindNode("F2,0")->Text(), "Door = False");
+  EXPECT_EQ(again.shell().tvCons().FindNode("F2,0")->Image(), "FlagFalse");
+  EXPECT_EQ(again.shell().tvCons().FindNode("F3,0")->Text(), "Lamp = False");
+  EXPECT_EQ(again.shell().GetConFile()->Conversations.At(0).flagRefs.Count(), 2U);
   EXPECT_TRUE(again.Close());
 }
 

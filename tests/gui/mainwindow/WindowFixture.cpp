@@ -82,7 +82,9 @@ bool RunningProgram::Close() {
 }
 
 void WhenFormShows(const char* name, std::function<void(QWidget&)> user) {
-  auto* timer = new QTimer(qApp);  // lives until the form has come
+  auto* timer = new QTimer(qApp);  // lives until the form has come, or the test has ended
+  timer->setObjectName(kWaitsForAForm);
+  timer->setProperty("form", QString::fromLatin1(name));
   timer->setInterval(10);
   QObject::connect(timer, &QTimer::timeout, timer, [timer, name, user = std::move(user)] {
     QWidget* form = QApplication::activeModalWidget();

@@ -76,6 +76,9 @@ class RunningProgram {
   std::unique_ptr<frmConvList> window_;
 };
 
+/// Name of the timers that wait for a form. One that is left at the end of a test fails it.
+inline constexpr QLatin1String kWaitsForAForm("waits for a form");
+
 /// Waits for the modal form of that name to be active and lets `user` work on it, once.
 void WhenFormShows(const char* name, std::function<void(QWidget&)> user);
 
