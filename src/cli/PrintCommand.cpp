@@ -103,7 +103,8 @@ void PrintFile(Session& session, const PrintOptions& options, PrintPages& pages)
 void Print(const PrintOptions& options, const PdfMaker& makePdf) {
   if (!makePdf) {
     throw RuntimeError(RuntimeError::kPrinterError,
-                       "this build cannot print, it was made without the toolkit that does");
+                       "printing needs the program parlate-print beside this one, which a build "
+                       "without Qt does not have");
   }
   Session session;
   options.Apply(session.workspace.defaults);

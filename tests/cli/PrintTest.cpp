@@ -98,7 +98,7 @@ TEST_F(Print, LeavesBlankLinesBetweenEventsUnlessToldNotTo) {
 TEST_F(Print, SaysSoInABuildWithoutTheToolkit) {
   const Ran ran = RunTool({"print", in_, out_});
   EXPECT_EQ(ran.code, 2);
-  EXPECT_THAT(ran.err, HasSubstr("this build cannot print"));
+  EXPECT_THAT(ran.err, HasSubstr("printing needs the program parlate-print"));
   EXPECT_THAT(ran.out, IsEmpty());
   EXPECT_FALSE(std::filesystem::exists(out_));
 }

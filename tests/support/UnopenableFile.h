@@ -4,7 +4,6 @@
 #include <sys/un.h>
 #include <unistd.h>
 
-#include <cstring>
 #include <string>
 
 namespace parlate::testing_support {
@@ -16,7 +15,9 @@ class UnopenableFile {
       : descriptor_(::socket(AF_UNIX, SOCK_STREAM, 0)) {
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
-    std::strncpy(address.sun_path, path.c_str(), sizeof(address.sun_path) - 1);
+    // A longer path would be cut, and another file made.
+    if (path.size() >= sizeof(address.sun_path)) return;
+    path.copy(address.sun_path, path.size());
     bound_ = ::bind(descriptor_, reinterpret_cast<const sockaddr*>(&address), sizeof(address)) == 0;
   }
   ~UnopenableFile() { ::close(descriptor_); }

@@ -109,8 +109,14 @@ Boolean ValidateComboEntry(ComboBox& combo, std::int32_t tableType, Boolean bQui
   const std::string text = combo.Text();
   if (text.empty() || !combo.Visible()) return false;
   if (const TableItem* row = FindTableItemByName(tableType, text)) {
-    // A row that came by way of another combo is missing in this one, whose choice is stored.
-    if (IndexOfText(combo, row->Name) == -1) AddEntry(combo, *row);
+    // A row that came by way of another combo is missing in this one, whose choice is stored, or
+    // stands here with the number of one that has gone.
+    const int listed = IndexOfText(combo, row->Name);
+    if (listed == -1) {
+      AddEntry(combo, *row);
+    } else if (GetTable(tableType)->Find(combo.ItemData(listed)) == nullptr) {
+      combo.SetItemData(listed, row->ID);
+    }
     SelectComboItemByText(row->Name, combo);
     return true;
   }

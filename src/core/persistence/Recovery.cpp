@@ -65,8 +65,8 @@ void AddMissingFlags(const ConversationFile& file) {
   }
 }
 
-/// A re-linking that broke off can leave one flag twice in an event that sets flags, and a file
-/// with both could not be read.
+/// Re-linking can make two flags of an event that sets flags the same one, and a file with both
+/// could not be read.
 void DropRepeatedFlags(ConversationFile& file) {
   for (Conversation& con : file.Conversations) {
     for (EventItem& event : con.events) {

@@ -16,7 +16,9 @@ std::string AbsolutePath(const std::string& path) {
   if (path.empty()) return path;
   std::error_code unknown;
   // A ".." behind a link leads where only the system knows, so it is left as it stands.
-  const auto absolute = std::filesystem::absolute(path, unknown);
+  std::string_view shortened = path;
+  while (shortened.starts_with("./")) shortened.remove_prefix(2);
+  const auto absolute = std::filesystem::absolute(shortened, unknown);
   return unknown ? path : absolute.string();
 }
 

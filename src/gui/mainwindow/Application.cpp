@@ -24,11 +24,10 @@ std::string ErrorText(const std::exception& error) {
   return "Run-time error '" + std::to_string(runtime->Number()) + "':\n\n" + runtime->Description();
 }
 
-/// Writes the open file to the recovery folder, and says how that went.
+/// Writes the open file to the recovery folder, and says in UTF-8 how that went.
 std::string Rescue(Shell& shell) {
   const std::string path = shell.WriteRecoveryFile(RecoveryFolder());
-  return path.empty() ? "The open file could not be saved."
-                      : "The open file was saved as\n" + FromUtf8(path);
+  return path.empty() ? "The open file could not be saved." : "The open file was saved as\n" + path;
 }
 
 }  // namespace
@@ -40,7 +39,7 @@ std::string RecoveryFolder() {
 
 void ReportFatalError(const std::exception& error, Shell& shell, MessageBoxes& messages) {
   std::string text = ErrorText(error);
-  if (shell.GetConFile() != nullptr) text += "\n\n" + Rescue(shell);
+  if (shell.GetConFile() != nullptr) text += "\n\n" + FromUtf8(Rescue(shell));
   messages.Show({"", text, MessageBox::Icon::Critical, MessageBox::Buttons::Ok});
 }
 
@@ -57,9 +56,11 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
   setApplicationVersion(QStringLiteral(PARLATE_VERSION));
 }
 
-void Application::Protect(Shell& shell, MessageBoxes& messages) {
+void Application::Protect(Shell& shell, MessageBoxes& messages,
+                          std::function<void()> storeSettings) {
   shell_ = &shell;
   messages_ = &messages;
+  storeSettings_ = std::move(storeSettings);
 }
 
 int Application::Run(const std::function<bool()>& start) {
@@ -91,8 +92,10 @@ void Application::EndBySignal(int signal) {
   if (failing_) std::_Exit(kFatalExitCode);
   if (shell_ != nullptr) {
     const std::string said = LetFileGo(*shell_);
-    if (!said.empty()) std::cerr << ToUtf8(said) << std::endl;
+    if (!said.empty()) std::cerr << said << std::endl;
   }
+  // The places of the windows stay as they were stored.
+  if (storeSettings_) storeSettings_();
   std::_Exit(kSignalExitCode + signal);
 }
 

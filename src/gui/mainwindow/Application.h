@@ -17,8 +17,9 @@ class Application final : public QApplication {
  public:
   Application(int& argc, char** argv);
 
-  /// What a fatal error rescues, and where it is told.
-  void Protect(Shell& shell, MessageBoxes& messages);
+  /// What a fatal error rescues, where it is told, and what stores the settings when a signal ends
+  /// the program.
+  void Protect(Shell& shell, MessageBoxes& messages, std::function<void()> storeSettings);
 
   /// Runs `start`, and after it the event loop unless `start` says that the program ends at once.
   /// Returns the program's exit code: 0, or 1 after a fatal error.
@@ -35,6 +36,7 @@ class Application final : public QApplication {
 
   Shell* shell_ = nullptr;
   MessageBoxes* messages_ = nullptr;
+  std::function<void()> storeSettings_;
   bool failing_ = false;
 };
 
@@ -43,7 +45,8 @@ class Application final : public QApplication {
 void ReportFatalError(const std::exception& error, Shell& shell, MessageBoxes& messages);
 
 /// Lets go of the open file when nobody is there to be asked: unsaved changes go to the recovery
-/// folder, and the lock is removed. Returns what is to be said about it, nothing without changes.
+/// folder, and the lock is removed. Returns what is to be said about it in the terminal, with the
+/// path in its own bytes; nothing without changes.
 [[nodiscard]] std::string LetFileGo(Shell& shell);
 
 /// Where rescued files go: Parlate/recovery in the user's data folder.

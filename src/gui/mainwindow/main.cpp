@@ -4,6 +4,7 @@
 
 #include "mainwindow/Application.h"
 #include "mainwindow/frmConvList.h"
+#include "model/Workspace.h"
 #include "platform/EndSignals.h"
 #include "platform/FontSetup.h"
 #include "platform/IniSettingsStore.h"
@@ -31,7 +32,10 @@ int main(int argc, char** argv) {
   parlate::IniSettingsStore settings;
   parlate::QtPrinters printers;
   parlate::frmConvList window(messages, dialogs, settings, &printers);
-  application.Protect(window.shell(), messages);
+  application.Protect(window.shell(), messages, [&settings] {
+    parlate::Workspace::Current().defaults.SaveDefaults(settings);
+    settings.Sync();
+  });
   endSignals.Listen();
   return application.Run([&] {
     if (!window.InitMainWindow()) return false;

@@ -44,7 +44,8 @@ class MultiColumnList : public QAbstractScrollArea, private ListRowsListener {
   /// Width of a column in pixels, 0 or more.
   [[nodiscard]] int ColumnWidth(int column) const { return header_.sectionSize(column); }
   void SetColumnWidth(int column, int width);
-  /// Makes a column as wide as its widest cell and its head need, up to half of the list.
+  /// Makes a column as wide as its widest cell and its head need. It grows up to an even share of
+  /// the list.
   void FitColumn(int column);
 
   /// Says in words what a row colour (24-bit blue-green-red) stands for, for those who do not see

@@ -1,6 +1,8 @@
+#include <QFontMetricsF>
 #include <QResizeEvent>
 #include <QScopedValueRollback>
 #include <QScrollBar>
+#include <QtMath>
 #include <algorithm>
 #include <limits>
 #include <utility>
@@ -147,13 +149,14 @@ int MultiColumnList::RowAt(QPoint position) {
 }
 
 void MultiColumnList::FitColumn(int column) {
-  const int most = viewport()->width() / 2;
+  const int most = std::max(viewport()->width() / ColumnCount(), ColumnWidth(column));
+  const QFontMetricsF metrics(font(), viewport());
   const int margins = 2 * CellMargin(column);
   int width = header_.isHidden() ? 0 : header_.sectionSizeHint(column);
   for (int row = 0; row < Count() && width < most; ++row) {
     // No character is narrower than a pixel: what is cut off here is beyond the limit anyway.
     const QString text = CellText(row, column).left(most);
-    width = std::max(width, fontMetrics().horizontalAdvance(text) + margins);
+    width = std::max(width, qCeil(metrics.horizontalAdvance(text)) + margins);
   }
   SetColumnWidth(column, std::min(width, most));
 }

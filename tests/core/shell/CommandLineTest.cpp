@@ -37,6 +37,7 @@ TEST(CommandLine, PutsAPathBehindTheWorkingFolderAndLeavesAnEmptyOneEmpty) {
   const std::string here = std::filesystem::current_path().string() + "/";
   EXPECT_EQ(AbsolutePath(""), "");
   EXPECT_EQ(AbsolutePath("a b.con"), here + "a b.con");
+  EXPECT_EQ(AbsolutePath("./a.con"), here + "a.con");
   EXPECT_EQ(AbsolutePath("link/../x.con"), here + "link/../x.con");
 }
 

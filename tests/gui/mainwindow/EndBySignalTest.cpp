@@ -70,6 +70,15 @@ TEST_F(EndBySignal, LeavesTheLockOfAnotherWriter) {
   EXPECT_TRUE(Locked());
 }
 
+TEST_F(EndBySignal, TellsOfARescueThatFailedAndRemovesTheLockAllTheSame) {
+  WriteBytes(folder.File("data"), "no folder");
+  RunningProgram program;
+  ASSERT_TRUE(program.Start(PutSampleFile(28)));
+  program.shell().SetModified(true, nullptr);
+  EXPECT_EQ(LetFileGo(program.shell()), "The open file could not be saved.");
+  EXPECT_FALSE(Locked());
+}
+
 TEST_F(EndBySignal, WithNoFileOpenDoesNothing) {
   RunningProgram program;
   ASSERT_TRUE(program.Start());
@@ -93,6 +102,9 @@ TEST_F(EndBySignal, OfTheRealEditorUnlocksItsFileAndIsToldByTheExitCode) {
   EXPECT_EQ(editor.exitCode(), 128 + SIGTERM);
   EXPECT_FALSE(Locked());
   EXPECT_EQ(Rescued(), QStringList());
+  // Settings are kept: the file is among the recent ones.
+  EXPECT_NE(ReadBytes(folder.File("settings/Parlate.ini")).find("=" + path + "\n"),
+            std::string::npos);
 }
 
 }  // namespace

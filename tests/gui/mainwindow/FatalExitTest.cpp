@@ -7,12 +7,16 @@
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QTimer>
+#include <csignal>
 #include <cstdlib>
 #include <fstream>
+#include <functional>
+#include <utility>
 
 #include "general/RuntimeError.h"
 #include "mainwindow/Application.h"
 #include "mainwindow/WindowFixture.h"
+#include "platform/EndSignals.h"
 #include "support/FileBytes.h"
 
 namespace parlate {
@@ -40,24 +44,32 @@ class ReadBoxes : public MessageBoxes {
   }
 };
 
-/// A user before whose eyes, while the first box stands, something else fails.
-class BoxesWithASecondError final : public ReadBoxes {
+void EndByTheSystem() {
+  EndRequest request(SIGTERM);
+  QCoreApplication::sendEvent(qApp, &request);
+}
+
+using Trouble = std::function<void()>;
+
+/// A user before whose eyes, while the first box stands, something else goes wrong.
+class BoxesInTrouble final : public ReadBoxes {
  public:
-  explicit BoxesWithASecondError(Workspace& workspace) : workspace_(workspace) {}
+  BoxesInTrouble(Workspace& workspace, Trouble trouble)
+      : workspace_(workspace), trouble_(std::move(trouble)) {}
 
   Answer Show(const MessageBox& box) override {
     const Answer answer = ReadBoxes::Show(box);
-    if (failedAgain_) return answer;
-    failedAgain_ = true;
+    if (!trouble_) return answer;
+    const Trouble trouble = std::exchange(trouble_, nullptr);
     workspace_.now = [] { return kSavedAt + 1; };
-    FailInASlot();
+    trouble();
     QEventLoop().exec();
     return answer;
   }
 
  private:
   Workspace& workspace_;
-  bool failedAgain_ = false;
+  Trouble trouble_;
 };
 
 using Start = std::function<bool(RunningProgram&)>;
@@ -74,7 +86,7 @@ bool OpensAndFailsAtOnce(RunningProgram& program) {
 }
 
 /// The rest of a process that is the program. An error that leaves it crashes the process.
-[[noreturn]] void RunTheProgram(const Start& start, bool failsAgain = false) noexcept {
+[[noreturn]] void RunTheProgram(const Start& start, const Trouble& trouble = {}) noexcept {
   // There is one application at a time, and that of the tests lets errors pass.
   qApp->~QApplication();
   int count = 1;
@@ -82,9 +94,8 @@ bool OpensAndFailsAtOnce(RunningProgram& program) {
   char* arguments[] = {name, nullptr};
   Application application(count, arguments);
   RunningProgram program;
-  ReadBoxes boxes;
-  BoxesWithASecondError boxesWithError(program.workspace);
-  application.Protect(program.shell(), failsAgain ? boxesWithError : boxes);
+  BoxesInTrouble boxes(program.workspace, trouble);
+  application.Protect(program.shell(), boxes, [] {});
   static_cast<void>(application.Run([&] { return start(program); }));
   std::_Exit(kWentOn);
 }
@@ -147,7 +158,14 @@ TEST(FatalExit, OfAStartThatFailsIsTheSame) {
 }
 
 TEST(FatalExit, WithASecondErrorWhileTheFirstIsToldRescuesAndTellsNothingMore) {
-  if (IsTheProgram()) RunTheProgram(OpensAndFailsThen, true);
+  if (IsTheProgram()) RunTheProgram(OpensAndFailsThen, FailInASlot);
+  const EndedRun run;
+  EXPECT_EQ(run.exitCode, 1);
+  run.ExpectRescued();
+}
+
+TEST(FatalExit, ThatTheSystemHastensKeepsItsCodeItsRescueAndTheLock) {
+  if (IsTheProgram()) RunTheProgram(OpensAndFailsThen, EndByTheSystem);
   const EndedRun run;
   EXPECT_EQ(run.exitCode, 1);
   run.ExpectRescued();

@@ -1,9 +1,5 @@
 // Files that open in the window, or do not: what is said, and what the window shows then.
 
-#include <sys/socket.h>
-#include <sys/un.h>
-#include <unistd.h>
-
 #include <QApplication>
 #include <QImage>
 #include <QWindow>
@@ -12,6 +8,7 @@
 #include "general/Paths.h"
 #include "mainwindow/WindowFixture.h"
 #include "support/FileBytes.h"
+#include "support/UnopenableFile.h"
 
 namespace parlate {
 namespace {
@@ -71,26 +68,6 @@ TEST_P(CutShortLock, IsHeldByNobodyKnownAndAskedAbout) {
   EXPECT_TRUE(program.Close());
   EXPECT_EQ(ReadBytes(Lock()), GetParam().bytes);
 }
-
-/// A file in the folder that is there but can be opened by nobody, not even the superuser.
-class UnopenableFile {
- public:
-  explicit UnopenableFile(const std::string& path)
-      : descriptor_(::socket(AF_UNIX, SOCK_STREAM, 0)) {
-    sockaddr_un address{};
-    address.sun_family = AF_UNIX;
-    path.copy(address.sun_path, sizeof(address.sun_path) - 1);
-    bound_ = ::bind(descriptor_, reinterpret_cast<const sockaddr*>(&address), sizeof(address)) == 0;
-  }
-  ~UnopenableFile() { ::close(descriptor_); }
-  UnopenableFile(const UnopenableFile&) = delete;
-  UnopenableFile& operator=(const UnopenableFile&) = delete;
-  [[nodiscard]] bool Bound() const { return bound_; }
-
- private:
-  int descriptor_;
-  bool bound_ = false;
-};
 
 TEST_F(Opening, AFileThatIsThereButCannotBeReadIsToldAndLeavesItsLockBehind) {
   const std::string path = folder.File("sample.con");
