@@ -8,6 +8,7 @@
 
 #include "general/CodePage.h"
 #include "general/RuntimeError.h"
+#include "mainwindow/Icons.h"
 #include "platform/AltLetters.h"
 #include "platform/EndSignals.h"
 
@@ -54,6 +55,8 @@ std::string LetFileGo(Shell& shell) {
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
   setApplicationName(QStringLiteral("Parlate"));
   setApplicationVersion(QStringLiteral(PARLATE_VERSION));
+  // For every window, also for the settings that come ahead of the main one.
+  setWindowIcon(Icon(QStringLiteral("parlate")));
 }
 
 void Application::Protect(Shell& shell, MessageBoxes& messages,

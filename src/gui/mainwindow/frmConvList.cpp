@@ -39,7 +39,6 @@ frmConvList::frmConvList(MessageBoxes& messages, FileDialogs& dialogs, SettingsS
       picLogo_(IconPath(QStringLiteral("logo")), QSize(480, 270), &client_) {
   setObjectName(QStringLiteral("frmConvList"));
   setWindowTitle(QStringLiteral("Conversation"));
-  setWindowIcon(Icon(QStringLiteral("parlate")));
   // The toolkit's own menu of bars would hide the toolbar behind the back of the View menu.
   setContextMenuPolicy(Qt::NoContextMenu);
   BuildPanes();
