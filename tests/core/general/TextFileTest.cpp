@@ -183,7 +183,7 @@ TEST(TextWriterTest, LinesOfAnyLengthComeOutInOrder) {
                                std::size_t{0}, std::size_t{5}}) {
       const std::string text(length, static_cast<char>('a' + length % 26));
       writer.WriteLine(text, "-", text);
-      expected += text + "-" + text + "\r\n";
+      expected.append(text).append("-").append(text).append("\r\n");
     }
   }
   EXPECT_TRUE(sink.Bytes() == expected);

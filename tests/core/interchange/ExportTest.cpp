@@ -5,7 +5,6 @@ namespace {
 
 using namespace testing_support;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 class Export : public InterchangeTest {};
 

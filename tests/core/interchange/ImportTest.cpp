@@ -451,7 +451,7 @@ TEST_F(Import, ALongTextLetsTheInterfaceRepaintAlsoWhereNothingMatches) {
   open_.progress.repaints = 0;
   Bring(Text(std::vector<std::string>(4095, "nothing")));
   EXPECT_EQ(open_.progress.repaints, 0);
-  Bring(Text(std::vector<std::string>(3 * 4096, "nothing")));
+  Bring(Text(std::vector<std::string>(std::size_t{3} * 4096, "nothing")));
   EXPECT_EQ(open_.progress.repaints, 3);
   std::vector<std::string> lines;
   for (int i = 0; i < 4096; ++i) lines.insert(lines.end(), {"[NOTE:]", "n"});
@@ -508,8 +508,8 @@ TEST_F(Import, MoreFieldsThanSixteenBitsCountAreDroppedAndTheWalkEnds) {
   AddSpeech(1, "old");
   std::vector<std::string> lines;
   for (int i = 0; i < 40000; ++i) {
-    lines.push_back("[NOTE:]");
-    lines.push_back("n");
+    lines.emplace_back("[NOTE:]");
+    lines.emplace_back("n");
   }
   BringTalk(lines);
   EXPECT_EQ(missed_.size(), 40000U);

@@ -50,7 +50,7 @@ class RoundTrip : public InterchangeTest {
     ConversationImport(File(), reader).ImportConversations(open_.progress);
     std::vector<std::string> changed;
     for (const auto& [place, now] : AllPlaces()) {
-      if (before.at(place) != now) changed.push_back(place + ": " + now);
+      if (before.at(place) != now) changed.emplace_back(place).append(": ").append(now);
     }
     return changed;
   }
