@@ -133,7 +133,7 @@ TEST_F(PrintedConversation, ATitleThatDoesNotFitBeginsANewPage) {
 
 TEST_F(PrintedConversation, AnEventTallerThanAPageRunsOverItsEndOnTheSecondTry) {
   Settings().bPrintFooters = false;
-  AddComment(std::string(95 * 90, 'x'));
+  AddComment(std::string(std::size_t{95} * 90, 'x'));
   const auto& calls = Print();
   EXPECT_EQ(calls.at(2), "new page");
   EXPECT_EQ(calls.at(5), "750,1080 Arial 10: Comment");
@@ -202,7 +202,7 @@ TEST_F(PrintedConversation, AnEventOfMoreThanThePaperMeasuresIsPrintedWholeAllTh
 
 TEST_F(PrintedConversation, AfterAnEventThatRanOverThePageTheNextBeginsOverleaf) {
   Settings().bPrintFooters = false;
-  AddComment(std::string(81 * 70, 'x'));
+  AddComment(std::string(std::size_t{81} * 70, 'x'));
   AddSpeech(1, "Hello");
   const auto& calls = Print();
   const std::vector<std::string> end(calls.end() - 6, calls.end());

@@ -11,9 +11,7 @@ namespace parlate {
 namespace {
 
 using namespace testing_support;
-using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::IsEmpty;
 using testing::StartsWith;
 
 const std::string kDashes(65, '-');

@@ -44,6 +44,7 @@ QString EventEditorTest::CaptionOf(const char* name) {
 
 std::vector<std::string> EventEditorTest::Entries(const char* combo) {
   std::vector<std::string> entries;
+  entries.reserve(static_cast<std::size_t>(Combo(combo).ListCount()));
   for (int i = 0; i < Combo(combo).ListCount(); ++i) entries.push_back(Combo(combo).List(i));
   return entries;
 }

@@ -31,6 +31,7 @@ class FlagListEditTest : public ::testing::Test {
   }
   std::vector<std::string> Shown() {
     std::vector<std::string> texts;
+    texts.reserve(rows_.ListCount());
     for (std::size_t i = 0; i < rows_.ListCount(); ++i) texts.push_back(rows_.Row(i).text);
     return texts;
   }

@@ -21,6 +21,7 @@ class FrmEventRandom : public EventEditorTest {
   std::vector<std::string> Targets() {
     std::vector<std::string> labels;
     const auto& list = The<QtListBox>("lstLabels");
+    labels.reserve(static_cast<std::size_t>(list.ListCount()));
     for (int i = 0; i < list.ListCount(); ++i) labels.push_back(list.List(i));
     return labels;
   }

@@ -78,6 +78,7 @@ class FrmFilePropertiesTest : public ShownForm<frmFileProperties> {
   }
   static std::vector<std::string> Names(const QtListBox& list) {
     std::vector<std::string> names;
+    names.reserve(static_cast<std::size_t>(list.ListCount()));
     for (int i = 0; i < list.ListCount(); ++i) names.push_back(list.List(i));
     return names;
   }

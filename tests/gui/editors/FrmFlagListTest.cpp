@@ -28,6 +28,7 @@ class FrmFlagListTest : public ShownForm<frmFlagList> {
   QtListBox& List() { return ControlNamed<QtListBox>(Form(), "lstFlags"); }
   std::vector<std::string> Offered() {
     std::vector<std::string> names;
+    names.reserve(static_cast<std::size_t>(List().ListCount()));
     for (int i = 0; i < List().ListCount(); ++i) names.push_back(List().List(i));
     return names;
   }

@@ -80,6 +80,7 @@ TEST_F(FrmPrintCons, OffersNineSizes) {
   Show();
   const QtComboBox& sizes = The<QtComboBox>("cboFontSizes");
   std::vector<std::string> offered;
+  offered.reserve(static_cast<std::size_t>(sizes.ListCount()));
   for (int i = 0; i < sizes.ListCount(); ++i) offered.push_back(sizes.List(i));
   EXPECT_EQ(offered,
             (std::vector<std::string>{"8", "9", "10", "11", "12", "14", "16", "18", "24"}));

@@ -38,6 +38,7 @@ class FindUser {
   void Find() { Click("cmdFind"); }
   std::vector<std::string> History() {
     std::vector<std::string> texts;
+    texts.reserve(static_cast<std::size_t>(Text().ListCount()));
     for (int i = 0; i < Text().ListCount(); ++i) texts.push_back(Text().List(i));
     return texts;
   }
