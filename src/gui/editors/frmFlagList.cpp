@@ -95,10 +95,11 @@ void frmFlagList::PopulateFlagValueCombo() {
 
 void frmFlagList::PopulateAvailableFlags() {
   lstFlags.Clear();
+  // One that was redirected to another row stands under the key of the row that it had.
+  IDSet referenced;
+  GatherFlags(*flagRefs_, referenced);
   for (const TableItem& flag : *GetTable(kFlagTable)) {
-    // One that was redirected to another row stands under the key of the row that it had.
-    const bool listed =
-        flagRefs_->Find(flag.ID) != nullptr || IsFlagReferenced(*flagRefs_, flag.ID);
+    const bool listed = flagRefs_->Find(flag.ID) != nullptr || referenced.Contains(flag.ID);
     if (!listed) lstFlags.AddRow(flag.Name, flag.ID);
   }
   RefreshFlagOK();

@@ -27,6 +27,13 @@ class FrmEventChoice : public EventEditorTest {
     for (const char* text : {"A", "B", "C"}) AddChoice(text);
     Click("cmdUpdate");
   }
+  void DeleteThree() {
+    for (int i = 0; i < 3; ++i) {
+      ClickRowOf("lstChoices", 0);
+      program_.messages.Expect(Answer::Yes);
+      Click("cmdChoiceDelete");
+    }
+  }
   std::vector<std::string> TextsInOrder() {
     std::vector<std::string> texts;
     for (const ChoiceItem& choice : EventOf<EventChoice>(6).Choices) texts.push_back(choice.text);
@@ -163,11 +170,7 @@ TEST_F(FrmEventChoice, DeleteAsksAndYesTakesTheChoiceFromTheEventAtOnce) {
 
 TEST_F(FrmEventChoice, AnEventKeepsItsLastChoiceUntilAnotherTakesItsPlace) {
   AddThree();
-  for (int i = 0; i < 3; ++i) {
-    ClickRowOf("lstChoices", 0);
-    program_.messages.Expect(Answer::Yes);
-    Click("cmdChoiceDelete");
-  }
+  DeleteThree();
   EXPECT_THAT(RowsOf("lstChoices"), IsEmpty());
   EXPECT_FALSE(IsEnabled("cmdUpdate"));
   EXPECT_THAT(TextsInOrder(), ElementsAre("C"));
@@ -178,11 +181,7 @@ TEST_F(FrmEventChoice, AnEventKeepsItsLastChoiceUntilAnotherTakesItsPlace) {
 
 TEST_F(FrmEventChoice, AnEventLeftWithoutChoicesCanStillBeListedOnOneLine) {
   AddThree();
-  for (int i = 0; i < 3; ++i) {
-    ClickRowOf("lstChoices", 0);
-    program_.messages.Expect(Answer::Yes);
-    Click("cmdChoiceDelete");
-  }
+  DeleteThree();
   Click("cmdClose");
   program_.Choose("mnuViewExpandList");
   EXPECT_THAT(program_.shell().lstEvents().Row(5).text, EndsWith("C"));
